@@ -1,0 +1,85 @@
+#include "logging.h"
+
+#include "log.h"
+#include "objectregistry.h"
+
+#include <QDebug>
+#include <QThread>
+
+namespace {
+
+// Index of the '(' that opens the parameter list of a pretty function name,
+// skipping parentheses inside template arguments and "operator()".
+int parameterListStart(const QString& text)
+{
+    int depth = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == QLatin1Char('<'))
+            ++depth;
+        else if (c == QLatin1Char('>') && depth > 0)
+            --depth;
+        else if (c == QLatin1Char('(') && depth == 0) {
+            if (text.midRef(0, i).endsWith(QLatin1String("operator")))
+                continue;
+            return i;
+        }
+    }
+    return -1;
+}
+
+// Index just past the return type: the last blank outside template brackets.
+int nameStart(const QString& text)
+{
+    int depth = 0;
+    for (int i = text.size() - 1; i >= 0; --i) {
+        const QChar c = text.at(i);
+        if (c == QLatin1Char('>'))
+            ++depth;
+        else if (c == QLatin1Char('<') && depth > 0)
+            --depth;
+        else if (c == QLatin1Char(' ') && depth == 0)
+            return i + 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+QString qualifiedFunctionName(const char* prettyFunction)
+{
+    QString text = QString::fromLatin1(prettyFunction);
+    const int paren = parameterListStart(text);
+    if (paren >= 0)
+        text.truncate(paren);
+    text = text.trimmed();
+    text = text.mid(nameStart(text));
+    while (text.startsWith(QLatin1Char('*')) || text.startsWith(QLatin1Char('&')))
+        text.remove(0, 1);
+    return text;
+}
+
+QString formatLogRecord(const QString& function, int line, const QString& message)
+{
+    QThread* thread = QThread::currentThread();
+    // One multi-argument arg() so that '%' signs inside the message stay as they are.
+    return QStringLiteral("%1,%2 : 0x%3,%4\n\t%5\n")
+        .arg(function, QString::number(line), QString::number(reinterpret_cast<quintptr>(thread), 16),
+             thread ? thread->objectName() : QString(), message);
+}
+
+void writeLogRecord(const QString& function, int line, const QString& message)
+{
+    if (Log* log = ObjectRegistry::mainWindowLog()) {
+        log->logMsg(formatLogRecord(function, line, message));
+        return;
+    }
+    qDebug().noquote() << QStringLiteral("Log file not created: ") + message;
+}
+
+bool logMsgWhenRetFail(bool ok, const QString& message)
+{
+    if (!ok)
+        LOG_MSG(QStringLiteral("ERROR: ") + message);
+    return ok;
+}

@@ -1,0 +1,290 @@
+#include "mainwindow.h"
+
+#include "clicklabel.h"
+#include "dialog.h"
+#include "ipc_thread.h"
+#include "logging.h"
+#include "objectregistry.h"
+#include "terminationsignals.h"
+#include "titlebar.h"
+#include "trayicon.h"
+#include "windowsystem.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QProcess>
+#include <QSettings>
+#include <QTimer>
+#include <QTranslator>
+#include <QVBoxLayout>
+
+namespace {
+
+// The key panel of the default layout (15 keys, vertical) until the key grid
+// sizes it for the layout in force.
+const QSize DefaultKeyPanelSize(466, 523);
+
+// The visible frame's border, drawn by the style sheet around the content.
+constexpr int FrameBorder = 1;
+
+QLabel* placeholder(const QString& text, QWidget* parent)
+{
+    auto* label = new QLabel(text, parent);
+    label->setObjectName(QStringLiteral("PlaceholderText"));
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* parent)
+    : QWidget(parent), m_settings(settings)
+{
+    ObjectRegistry::registerMainWindow(this, &m_log);
+    LOG_MSG(QStringLiteral("%1 %2 starting, log %3")
+                .arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(), m_log.filePath()));
+
+    m_windowSystem = WindowSystem::create();
+    LOG_MSG(QStringLiteral("window system: %1").arg(m_windowSystem->name()));
+
+    buildWindow();
+    setupTray();
+
+    m_terminationSignals = new TerminationSignals(this);
+    connect(m_terminationSignals, &TerminationSignals::terminationRequested, this, [this](int signalNumber) {
+        LOG_MSG(QStringLiteral("termination signal %1 received").arg(signalNumber));
+        quitApplication();
+    });
+    connect(qApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) { emit appStateChange(state == Qt::ApplicationActive); });
+    connect(this, &MainWindow::appStateChange, m_titleBar, &TitleBar::setActiveLook);
+
+    m_ipcThread = new IPC_Thread(this);
+
+    if (runInBackground)
+        QTimer::singleShot(0, this, [this] { hideToBackground(); });
+}
+
+MainWindow::~MainWindow()
+{
+    stopThreads();
+    if (m_settings)
+        m_settings->sync();
+    LOG_MSG(QStringLiteral("main window closed%1").arg(m_restartFlag ? QStringLiteral(", restarting") : QString()));
+    ObjectRegistry::unregisterMainWindow();
+    if (m_restartFlag)
+        startRestartedInstance();
+}
+
+void MainWindow::buildWindow()
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(QCoreApplication::applicationName());
+    setWindowIcon(QIcon(QStringLiteral(":/images/icn_logo.png")));
+
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* frame = new QWidget(this);
+    frame->setObjectName(QStringLiteral("MainFrame"));
+    frame->setAttribute(Qt::WA_StyledBackground);
+    outer->addWidget(frame);
+
+    auto* frameLayout = new QVBoxLayout(frame);
+    frameLayout->setContentsMargins(FrameBorder, FrameBorder, FrameBorder, FrameBorder);
+    frameLayout->setSpacing(0);
+
+    m_titleBar = new TitleBar(TitleBar::AboutButton | TitleBar::MinimizeButton | TitleBar::CloseButton, frame);
+    m_titleBar->setTitle(QCoreApplication::applicationName());
+    connect(m_titleBar->button(TitleBar::AboutButton), &ClickLabel::mouseClicked, this, &MainWindow::showAboutBox);
+    connect(m_titleBar->button(TitleBar::MinimizeButton), &ClickLabel::mouseClicked, this, &QWidget::showMinimized);
+    connect(m_titleBar->button(TitleBar::CloseButton), &ClickLabel::mouseClicked, this, &QWidget::close);
+    frameLayout->addWidget(m_titleBar);
+
+    // Title bar over [key panel with the status line below it | right column].
+    auto* content = new QHBoxLayout;
+    content->setContentsMargins(0, 0, 0, 0);
+    content->setSpacing(0);
+    auto* left = new QVBoxLayout;
+    left->setContentsMargins(0, 0, 0, 0);
+    left->setSpacing(0);
+    m_keyPanel = new QWidget(frame);
+    m_keyPanel->setObjectName(QStringLiteral("KeyPanel"));
+    m_keyPanel->setAttribute(Qt::WA_StyledBackground);
+    left->addWidget(m_keyPanel);
+    m_statusLine = new QLabel(tr("No keypad connected"), frame);
+    m_statusLine->setObjectName(QStringLiteral("StatusLine"));
+    m_statusLine->setContentsMargins(12, 4, 12, 6);
+    left->addWidget(m_statusLine);
+    content->addLayout(left);
+
+    m_rightColumn = new QWidget(frame);
+    m_rightColumn->setObjectName(QStringLiteral("RightColumn"));
+    m_rightColumn->setAttribute(Qt::WA_StyledBackground);
+    // The frame's border belongs to the column's 400 pixels.
+    m_rightColumn->setFixedWidth(RightColumnWidth - 2 * FrameBorder);
+    auto* column = new QVBoxLayout(m_rightColumn);
+    column->addWidget(placeholder(tr("Drag an action from above list and drop into section on the left."),
+                                  m_rightColumn));
+    content->addWidget(m_rightColumn);
+    frameLayout->addLayout(content, 1);
+
+    setKeyPanelSize(DefaultKeyPanelSize);
+}
+
+void MainWindow::setupTray()
+{
+    m_tray = new TrayIcon(this);
+    connect(m_tray, &TrayIcon::showRequested, this, &MainWindow::bringWindowToFront);
+    connect(m_tray, &TrayIcon::toggleRequested, this, &MainWindow::toggleFromTray);
+    connect(m_tray, &TrayIcon::aboutRequested, this, &MainWindow::showAboutBox);
+    connect(m_tray, &TrayIcon::quitRequested, this, &MainWindow::quitApplication);
+    m_tray->setVisible(true);
+    if (!TrayIcon::isTrayAvailable())
+        LOG_MSG(QStringLiteral("no system tray: closing the window minimises it"));
+}
+
+void MainWindow::setKeyPanelSize(const QSize& size)
+{
+    m_keyPanel->setFixedSize(size);
+    const int height = size.height() + m_titleBar->height() + m_statusLine->sizeHint().height() + 2 * FrameBorder;
+    setFixedSize(size.width() + RightColumnWidth, height);
+}
+
+QWidget* MainWindow::keyPanel() const
+{
+    return m_keyPanel;
+}
+
+QWidget* MainWindow::rightColumn() const
+{
+    return m_rightColumn;
+}
+
+void MainWindow::setKeypadStatus(const QString& text)
+{
+    m_statusLine->setText(text);
+}
+
+Log* MainWindow::log()
+{
+    return &m_log;
+}
+
+void MainWindow::installTranslator(QTranslator* translator, int langIdx)
+{
+    const QString file = translationFile(langIdx);
+    if (translator && !file.isEmpty() && translator->load(file))
+        QCoreApplication::installTranslator(translator);
+    LOG_MSG(QStringLiteral("lang idx: %1").arg(langIdx));
+}
+
+QString MainWindow::translationFile(int langIdx)
+{
+    static const char* const files[] = {":/translator/en-us.qm", ":/translator/ja.qm", ":/translator/zh-TW.qm",
+                                        ":/translator/it.qm",    ":/translator/de.qm", ":/translator/fr.qm"};
+    if (langIdx < 0 || langIdx >= int(std::size(files)))
+        return QString();
+    return QLatin1String(files[langIdx]);
+}
+
+void MainWindow::setRestartFlag(bool restart)
+{
+    m_restartFlag = restart;
+}
+
+bool MainWindow::restartFlag() const
+{
+    return m_restartFlag;
+}
+
+void MainWindow::bringWindowToFront()
+{
+    LOG_MSG(QStringLiteral("bring window to front"));
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    m_windowSystem->activateWindow(windowHandle());
+}
+
+void MainWindow::openExtensionFile(const QString& path)
+{
+    LOG_MSG(QStringLiteral("open extension file: %1").arg(path));
+    bringWindowToFront();
+}
+
+void MainWindow::showAboutBox()
+{
+    Dialog about(this);
+    about.setTitle(tr("About %1").arg(QCoreApplication::applicationName()));
+    about.setupDialog(QStringLiteral("%1 %2").arg(QCoreApplication::applicationName(),
+                                                  QCoreApplication::applicationVersion()),
+                      tr("The desktop companion of your LCD macro keypad.\nVersion %1")
+                          .arg(QCoreApplication::applicationVersion()),
+                      QString(), QString(), tr("OK"), QString(), Dialog::IconLogo, Dialog::RightButton);
+    about.exec();
+}
+
+void MainWindow::quitApplication()
+{
+    if (m_quitting)
+        return;
+    m_quitting = true;
+    LOG_MSG(QStringLiteral("quit requested"));
+    stopThreads();
+    if (m_settings)
+        m_settings->sync();
+    m_tray->setVisible(false);
+    close();
+    QCoreApplication::quit();
+}
+
+void MainWindow::restartApplication()
+{
+    setRestartFlag(true);
+    quitApplication();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_quitting) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    hideToBackground();
+}
+
+void MainWindow::hideToBackground()
+{
+    // Without a tray host a hidden window could not be reached again.
+    if (TrayIcon::isTrayAvailable())
+        hide();
+    else
+        showMinimized();
+}
+
+void MainWindow::toggleFromTray()
+{
+    if (isVisible() && !isMinimized() && isActiveWindow())
+        hideToBackground();
+    else
+        bringWindowToFront();
+}
+
+void MainWindow::stopThreads()
+{
+    if (m_ipcThread)
+        m_ipcThread->stop();
+}
+
+void MainWindow::startRestartedInstance()
+{
+    const QString program = QCoreApplication::applicationFilePath();
+    if (!QProcess::startDetached(program, {QStringLiteral("--waitInst")}))
+        qWarning().noquote() << "Could not restart" << program;
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "log.h"
+
+#include <QWidget>
+#include <memory>
+
+class IPC_Thread;
+class QLabel;
+class QSettings;
+class QTranslator;
+class TerminationSignals;
+class TitleBar;
+class TrayIcon;
+class WindowSystem;
+
+// The editor window. It owns the log, builds and wires every subsystem, lives
+// in the tray while closed, and is the target of the hand-over requests of
+// later starts.
+class MainWindow : public QWidget
+{
+    Q_OBJECT
+public:
+    static constexpr int RightColumnWidth = 400;
+
+    MainWindow(QSettings* settings, bool runInBackground, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // Loads the translation of a language index (0..5) into the translator
+    // and installs it; any other index keeps the built-in texts.
+    static void installTranslator(QTranslator* translator, int langIdx);
+    static QString translationFile(int langIdx);
+
+    // When set, destroying the window starts the program again with
+    // "--waitInst", so the new process waits for this one to end.
+    void setRestartFlag(bool restart);
+    bool restartFlag() const;
+
+    // Sizes the left panel that holds the key grid; the window is the panel
+    // plus the right column wide.
+    void setKeyPanelSize(const QSize& size);
+    QWidget* keyPanel() const;
+    QWidget* rightColumn() const;
+    void setKeypadStatus(const QString& text);
+
+    Log* log();
+
+signals:
+    void appStateChange(bool isAppActive);
+
+public slots:
+    void bringWindowToFront();
+    void openExtensionFile(const QString& path);
+    void showAboutBox();
+    // Quits cleanly: threads stopped, settings written, then the event loop ends.
+    void quitApplication();
+    void restartApplication();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildWindow();
+    void setupTray();
+    void hideToBackground();
+    void toggleFromTray();
+    void stopThreads();
+    void startRestartedInstance();
+
+    // First member: every other member and subsystem may log while it is built.
+    Log m_log;
+    QSettings* m_settings = nullptr;
+    std::unique_ptr<WindowSystem> m_windowSystem;
+    TitleBar* m_titleBar = nullptr;
+    QWidget* m_keyPanel = nullptr;
+    QWidget* m_rightColumn = nullptr;
+    QLabel* m_statusLine = nullptr;
+    TrayIcon* m_tray = nullptr;
+    TerminationSignals* m_terminationSignals = nullptr;
+    IPC_Thread* m_ipcThread = nullptr;
+    bool m_restartFlag = false;
+    bool m_quitting = false;
+};

@@ -1,0 +1,90 @@
+#include "startup.h"
+
+#include "instancecheck.h"
+#include "ipctoken.h"
+#include "mainwindow.h"
+#include "metatypes.h"
+#include "myapplication.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QThread>
+#include <QTranslator>
+
+void Startup::setIdentity()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
+    QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.3"));
+}
+
+int Startup::checkedLanguageIndex(int stored)
+{
+    return stored < 0 || stored > 5 ? -1 : stored;
+}
+
+void Startup::resolveInstance(StartupFlags* flags)
+{
+    const QString ownName = ownImageBaseName();
+    const bool mustQuit = mustQuitForOtherInstance(
+        (*flags)[WaitInstance], [&ownName] { return isAnotherInstanceRunning(ownName); },
+        [] { QThread::msleep(500); });
+    if (mustQuit) {
+        flags->set(QuitAtOnce);
+        flags->set(BringToFront);
+    }
+
+    // With no other instance this very process opens the file later through
+    // its own hand-over thread, so both cases share one path.
+    if ((*flags)[OpenFile]) {
+        qDebug().noquote() << "VSE is running, pass extension file path by IPC!";
+        // Absolute, because the receiver runs in a directory of its own.
+        sendIpcToken(TokenOpenFile, QFileInfo(flags->openFilePath).absoluteFilePath());
+    } else if ((*flags)[BringToFront]) {
+        qDebug().noquote() << "Not allow multip application instance, bring app to front.";
+        sendIpcToken(TokenBringToFront);
+    }
+}
+
+void Startup::applyStyleSheet()
+{
+    QFile style(QStringLiteral(":/style/keystage.qss"));
+    if (style.open(QIODevice::ReadOnly | QIODevice::Text))
+        qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
+}
+
+int Startup::run(int& argc, char** argv)
+{
+    setIdentity();
+    // Closing the window sends it to the tray; only Quit ends the process.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+
+    MyApplication application(argc, argv);
+    QThread::currentThread()->setObjectName(QStringLiteral("UI Thread"));
+
+    // argv as left by Qt, which has taken its own options (-platform ...) out.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    StartupFlags flags = parseCommandLine(arguments);
+    resolveInstance(&flags);
+    if (flags[QuitAtOnce])
+        return -1;
+
+    QSettings settings;
+    const int langIdx = checkedLanguageIndex(settings.value(QStringLiteral("lang_idx"), -1).toInt());
+    QTranslator translator;
+    MainWindow::installTranslator(&translator, langIdx);
+
+    registerModelMetaTypes();
+    applyStyleSheet();
+
+    MainWindow window(&settings, flags[RunInBackground]);
+    window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    window.setAttribute(Qt::WA_TranslucentBackground);
+    window.show();
+    return application.exec();
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+#include <array>
+
+// What the command line and the instance check decided, in this fixed order.
+enum StartupFlag {
+    RunInBackground = 0, // "--runinbk"
+    WaitInstance = 1,    // "--waitInst": wait until the previous process has gone (restart)
+    OpenFile = 2,        // "--openFile PATH"
+    QuitAtOnce = 3,      // another instance runs: hand over and leave
+    BringToFront = 4,    // ... and ask it to come to the front
+    StartupFlagCount = 5,
+};
+
+struct StartupFlags
+{
+    std::array<bool, StartupFlagCount> flags{};
+    QString openFilePath;
+
+    bool operator[](StartupFlag flag) const { return flags[flag]; }
+    void set(StartupFlag flag, bool on = true) { flags[flag] = on; }
+};
+
+// Only the first argument after the program name counts; the comparison is
+// exact and case-sensitive.
+StartupFlags parseCommandLine(const QStringList& arguments);

@@ -1,0 +1,56 @@
+#include "trayicon.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
+{
+    m_menu = new QMenu();
+    m_show = m_menu->addAction(tr("Show"));
+    m_about = m_menu->addAction(tr("About"));
+    m_menu->addSeparator();
+    m_quit = m_menu->addAction(tr("Quit"));
+    connect(m_show, &QAction::triggered, this, &TrayIcon::showRequested);
+    connect(m_about, &QAction::triggered, this, &TrayIcon::aboutRequested);
+    connect(m_quit, &QAction::triggered, this, &TrayIcon::quitRequested);
+
+    m_icon = new QSystemTrayIcon(QIcon(QStringLiteral(":/images/icn_tray.png")), this);
+    m_icon->setToolTip(QCoreApplication::applicationName());
+    m_icon->setContextMenu(m_menu);
+    connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
+            emit toggleRequested();
+    });
+}
+
+TrayIcon::~TrayIcon()
+{
+    delete m_menu;
+}
+
+bool TrayIcon::isTrayAvailable()
+{
+    return QSystemTrayIcon::isSystemTrayAvailable();
+}
+
+void TrayIcon::setVisible(bool visible)
+{
+    m_icon->setVisible(visible);
+}
+
+QMenu* TrayIcon::menu() const
+{
+    return m_menu;
+}
+
+QAction* TrayIcon::showAction() const
+{
+    return m_show;
+}
+
+QAction* TrayIcon::quitAction() const
+{
+    return m_quit;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QSystemTrayIcon;
+
+// The notification-area icon with the program's menu. Where the desktop has
+// no tray host, nothing is shown and the main window never hides itself.
+class TrayIcon : public QObject
+{
+    Q_OBJECT
+public:
+    explicit TrayIcon(QObject* parent = nullptr);
+    ~TrayIcon() override;
+
+    // Whether a tray host exists right now (it may appear after we start).
+    static bool isTrayAvailable();
+
+    void setVisible(bool visible);
+    QMenu* menu() const;
+    QAction* showAction() const;
+    QAction* quitAction() const;
+
+signals:
+    void showRequested();
+    void toggleRequested();
+    void aboutRequested();
+    void quitRequested();
+
+private:
+    QSystemTrayIcon* m_icon = nullptr;
+    QMenu* m_menu = nullptr;
+    QAction* m_show = nullptr;
+    QAction* m_about = nullptr;
+    QAction* m_quit = nullptr;
+};

@@ -1,0 +1,8 @@
+#include "metatypes.h"
+
+#include "keylayout.h"
+
+void registerModelMetaTypes()
+{
+    qRegisterMetaType<KeyLayout>("KeyLayout");
+}

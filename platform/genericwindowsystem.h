@@ -1,0 +1,17 @@
+#pragma once
+
+#include "windowsystem.h"
+
+// Wayland and any other platform: only what Qt itself can do. A Wayland
+// compositor decides on its own whether a window may take the focus.
+class GenericWindowSystem : public WindowSystem
+{
+public:
+    explicit GenericWindowSystem(const QString& name);
+
+    QString name() const override;
+    void activateWindow(QWindow* window) override;
+
+private:
+    QString m_name;
+};

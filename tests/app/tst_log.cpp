@@ -1,0 +1,268 @@
+#include "log.h"
+#include "logcapture.h"
+#include "logging.h"
+#include "objectregistry.h"
+#include "testmain.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QThread>
+
+namespace {
+
+struct ParsedEntry
+{
+    qint64 milliseconds = 0;
+    QString function;
+    int line = 0;
+    QString threadId;
+    QString threadName;
+    QString message;
+};
+
+// One entry: "ms: function,line : 0xthread,name\n\tmessage\n\n"
+QList<ParsedEntry> parseEntries(const QString& text, bool* wellFormed)
+{
+    static const QRegularExpression entry(
+        QStringLiteral("(\\d+): ([^,\\n]+),(\\d+) : 0x([0-9a-f]+),([^\\n]*)\\n\\t([^\\n]*)\\n\\n"));
+    QList<ParsedEntry> entries;
+    int position = 0;
+    *wellFormed = true;
+    while (position < text.size()) {
+        const QRegularExpressionMatch match =
+            entry.match(text, position, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+        if (!match.hasMatch()) {
+            *wellFormed = false;
+            break;
+        }
+        entries.append({match.captured(1).toLongLong(), match.captured(2), match.captured(3).toInt(),
+                        match.captured(4), match.captured(5), match.captured(6)});
+        position = match.capturedEnd();
+    }
+    return entries;
+}
+
+QString readAll(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QString();
+    return QString::fromUtf8(file.readAll());
+}
+
+} // namespace
+
+class LogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QDir(Log::logDirectory()).removeRecursively();
+        ObjectRegistry::clear();
+    }
+    void cleanup() { ObjectRegistry::clear(); }
+
+    void shouldPlaceLogInApplicationDataDirectory()
+    {
+        QCOMPARE(Log::logDirectory(), testEnvironment()->logDirectory());
+        Log log;
+        QVERIFY(log.isOpen());
+        QVERIFY(QFileInfo(log.filePath()).fileName().contains(QRegularExpression(QStringLiteral("^\\d{8}_\\d{6}\\.txt$"))));
+        QCOMPARE(QFileInfo(log.filePath()).absolutePath(), testEnvironment()->logDirectory());
+    }
+
+    void shouldKeepNewestTwentyFilesAndReportPrunedOnesOnDebugOutput()
+    {
+        QDir().mkpath(Log::logDirectory());
+        QStringList oldNames;
+        for (int i = 1; i <= 25; ++i) {
+            const QString name = QStringLiteral("2020010%1_0000%2.txt").arg(i / 10).arg(i % 10, 2, 10, QLatin1Char('0'));
+            QFile file(Log::logDirectory() + QLatin1Char('/') + name);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            oldNames << name;
+        }
+        oldNames.sort();
+
+        LogCapture capture;
+        Log log;
+        const QStringList remaining = QDir(Log::logDirectory()).entryList(QDir::Files, QDir::Name);
+        QCOMPARE(remaining.size(), 20);
+        for (int i = 0; i < 6; ++i)
+            QVERIFY2(!remaining.contains(oldNames.at(i)), qPrintable(oldNames.at(i)));
+        QVERIFY(remaining.contains(QFileInfo(log.filePath()).fileName()));
+
+        // Pruning happens before any main window exists: the notices go to
+        // the debug output, never into the file.
+        const QStringList notices = capture.matching(QStringLiteral("Exceeded maximum number of logged lines (20)"));
+        QCOMPARE(notices.size(), 6);
+        QCOMPARE(notices.first(), QStringLiteral("Log file not created: Exceeded maximum number of logged lines (20) "
+                                                 "removing log file ") +
+                                      oldNames.first());
+        QVERIFY(capture.matching(QStringLiteral("Log file not created: Log file ")).size() == 1);
+        QCOMPARE(readAll(log.filePath()), QString());
+    }
+
+    void shouldWriteRecordsThatParseBackFieldByField()
+    {
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        const qint64 before = QDateTime::currentMSecsSinceEpoch();
+        const int line = __LINE__ + 1;
+        LOG_MSG(QStringLiteral("hello %1 world, 100% sure"));
+
+        QThread worker;
+        worker.setObjectName(QStringLiteral("Comm"));
+        QThread* workerIdentity = &worker;
+        QObject::connect(&worker, &QThread::started, [&worker] {
+            LOG_MSG(QStringLiteral("from the worker"));
+            worker.quit();
+        });
+        worker.start();
+        QVERIFY(worker.wait(30000));
+
+        bool wellFormed = false;
+        const QList<ParsedEntry> entries = parseEntries(readAll(log.filePath()), &wellFormed);
+        QVERIFY(wellFormed);
+        QCOMPARE(entries.size(), 2);
+        const ParsedEntry& first = entries.at(0);
+        QVERIFY(first.milliseconds >= before && first.milliseconds <= QDateTime::currentMSecsSinceEpoch());
+        QCOMPARE(first.function, QStringLiteral("LogTest::shouldWriteRecordsThatParseBackFieldByField"));
+        QCOMPARE(first.line, line);
+        QCOMPARE(first.threadId, QString::number(reinterpret_cast<quintptr>(QThread::currentThread()), 16));
+        QCOMPARE(first.threadName, QStringLiteral("UI Thread"));
+        QCOMPARE(first.message, QStringLiteral("hello %1 world, 100% sure"));
+
+        const ParsedEntry& second = entries.at(1);
+        QCOMPARE(second.function, QStringLiteral("LogTest::shouldWriteRecordsThatParseBackFieldByField"));
+        QCOMPARE(second.threadId, QString::number(reinterpret_cast<quintptr>(workerIdentity), 16));
+        QCOMPARE(second.threadName, QStringLiteral("Comm"));
+        QCOMPARE(second.message, QStringLiteral("from the worker"));
+    }
+
+    void shouldEchoEveryEntryAndHaveItOnDiskAtOnce()
+    {
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        LogCapture capture;
+        LOG_MSG(QStringLiteral("durable"));
+        // Read through a second handle while the log stays open.
+        QVERIFY(readAll(log.filePath()).contains(QStringLiteral("\n\tdurable\n\n")));
+        const QStringList echoes = capture.matching(QStringLiteral("durable"));
+        QCOMPARE(echoes.size(), 1);
+        QVERIFY(echoes.first().startsWith(QStringLiteral("LOGMSG LogTest::shouldEchoEveryEntryAndHaveItOnDiskAtOnce,")));
+    }
+
+    void shouldRouteToDebugOutputBeforeMainWindowRegisters()
+    {
+        Log log;
+        LogCapture capture;
+        LOG_MSG(QStringLiteral("too early"));
+        QCOMPARE(capture.matching(QStringLiteral("too early")), QStringList{QStringLiteral("Log file not created: too early")});
+        QCOMPARE(readAll(log.filePath()), QString());
+    }
+
+    void shouldReportRecordsWhenTheFileCouldNotBeCreated()
+    {
+        // A plain file where the directory should be: nothing can be created.
+        const QString directory = Log::logDirectory();
+        QDir().mkpath(QFileInfo(directory).absolutePath());
+        QFile blocker(directory);
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        blocker.close();
+
+        LogCapture capture;
+        QObject window;
+        Log log;
+        QVERIFY(!log.isOpen());
+        QCOMPARE(capture.matching(QStringLiteral("Unable to create log file")).size(), 1);
+        ObjectRegistry::registerMainWindow(&window, &log);
+        LOG_MSG(QStringLiteral("lost?"));
+        const QStringList reports = capture.matching(QStringLiteral("lost?"));
+        QCOMPARE(reports.size(), 1);
+        QVERIFY(reports.first().startsWith(QStringLiteral("Log::logMsg Error: Log file hasn't been opened yet: ")));
+        QFile::remove(directory);
+    }
+
+    void shouldLogFailedConditionsUnderItsOwnName()
+    {
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        QCOMPARE(logMsgWhenRetFail(true, QStringLiteral("never shown!!")), true);
+        QCOMPARE(logMsgWhenRetFail(false, QStringLiteral("keyItem is nullptr!!")), false);
+
+        bool wellFormed = false;
+        const QList<ParsedEntry> entries = parseEntries(readAll(log.filePath()), &wellFormed);
+        QVERIFY(wellFormed);
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries.first().function, QStringLiteral("logMsgWhenRetFail"));
+        QCOMPARE(entries.first().message, QStringLiteral("ERROR: keyItem is nullptr!!"));
+    }
+
+    void shouldNeverInterleaveEntriesFromManyThreads()
+    {
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        constexpr int Threads = 4;
+        constexpr int PerThread = 200;
+        QList<QThread*> threads;
+        for (int t = 0; t < Threads; ++t) {
+            QThread* thread = QThread::create([t] {
+                for (int i = 0; i < PerThread; ++i)
+                    LOG_MSG(QStringLiteral("thread %1 entry %2 with some padding text").arg(t).arg(i));
+            });
+            thread->setObjectName(QStringLiteral("worker%1").arg(t));
+            threads << thread;
+            thread->start();
+        }
+        for (QThread* thread : threads) {
+            QVERIFY(thread->wait(60000));
+            delete thread;
+        }
+        bool wellFormed = false;
+        const QList<ParsedEntry> entries = parseEntries(readAll(log.filePath()), &wellFormed);
+        QVERIFY(wellFormed);
+        QCOMPARE(entries.size(), Threads * PerThread);
+        for (const ParsedEntry& entry : entries)
+            QVERIFY(entry.message.startsWith(QStringLiteral("thread ") + entry.threadName.mid(6) + QLatin1Char(' ')));
+    }
+
+    void shouldNameFunctionsAsClassAndMethod_data()
+    {
+        QTest::addColumn<QString>("pretty");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("method") << "void IPC_Thread::run()"
+                                << "IPC_Thread::run";
+        QTest::newRow("constructor") << "MainWindow::MainWindow(QSettings*, bool, QWidget*)"
+                                     << "MainWindow::MainWindow";
+        QTest::newRow("free function") << "bool logMsgWhenRetFail(bool, const QString&)"
+                                       << "logMsgWhenRetFail";
+        QTest::newRow("pointer return") << "const KeyItem* KeyItemModel::keyItem(int) const"
+                                        << "KeyItemModel::keyItem";
+        QTest::newRow("template return") << "QList<QPair<int, int> > Foo::pairs(int)"
+                                         << "Foo::pairs";
+        QTest::newRow("template class") << "void Foo<T>::bar(T) [with T = int]"
+                                        << "Foo<T>::bar";
+        QTest::newRow("lambda") << "MainWindow::MainWindow(QSettings*, bool, QWidget*)::<lambda(int)>"
+                                << "MainWindow::MainWindow";
+        QTest::newRow("call operator") << "bool Matcher::operator()(int) const"
+                                       << "Matcher::operator()";
+        QTest::newRow("destructor") << "virtual Hid_Comm::~Hid_Comm()"
+                                    << "Hid_Comm::~Hid_Comm";
+    }
+
+    void shouldNameFunctionsAsClassAndMethod()
+    {
+        QFETCH(QString, pretty);
+        QFETCH(QString, expected);
+        QCOMPARE(qualifiedFunctionName(pretty.toLatin1().constData()), expected);
+    }
+};
+
+KEYSTAGE_TEST_MAIN(LogTest)
+#include "tst_log.moc"

@@ -1,0 +1,139 @@
+#include "dialog.h"
+#include "ipc_thread.h"
+#include "mainwindow.h"
+#include "objectregistry.h"
+#include "testmain.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTranslator>
+
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Dialog::clearNextAnswers(); }
+
+    void shouldRegisterItselfWithItsLogFirst()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), &window);
+        QCOMPARE(ObjectRegistry::mainWindowLog(), window.log());
+
+        QFile file(window.log()->filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString firstLine = QString::fromUtf8(file.readLine());
+        QVERIFY2(firstLine.contains(QStringLiteral(": MainWindow::MainWindow,")), qPrintable(firstLine));
+    }
+
+    void shouldUnregisterWhenDestroyed()
+    {
+        {
+            QSettings settings;
+            MainWindow window(&settings, false);
+        }
+        QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), nullptr);
+        QCOMPARE(ObjectRegistry::mainWindowLog(), nullptr);
+    }
+
+    void shouldBeTheKeyPanelPlusTheRightColumnWide()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        QCOMPARE(window.width(), 466 + 400);
+        window.setKeyPanelSize(QSize(508, 523));
+        QCOMPARE(window.width(), 508 + 400);
+        QCOMPARE(window.keyPanel()->size(), QSize(508, 523));
+    }
+
+    void shouldNeverLoseTheWindowWhenClosed()
+    {
+        // The offscreen platform has no tray: closing must minimise, not hide.
+        QSettings settings;
+        MainWindow window(&settings, false);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(!window.close());
+        QVERIFY(window.isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(window.isMinimized(), 30000);
+
+        window.bringWindowToFront();
+        QVERIFY(window.isVisible());
+        QVERIFY(!window.isMinimized());
+    }
+
+    void shouldStartInTheBackgroundWhenAsked()
+    {
+        QSettings settings;
+        MainWindow window(&settings, true);
+        window.show();
+        QTRY_VERIFY_WITH_TIMEOUT(!window.isVisible() || window.isMinimized(), 30000);
+    }
+
+    void shouldStopItsThreadsAndEndTheEventLoopOnQuit()
+    {
+        QSettings settings;
+        settings.setValue(QStringLiteral("probe"), 42);
+        MainWindow window(&settings, false);
+        window.show();
+        IPC_Thread* ipc = window.findChild<IPC_Thread*>();
+        QVERIFY(ipc);
+        QTRY_VERIFY_WITH_TIMEOUT(ipc->isRunning(), 30000);
+
+        QTimer::singleShot(0, &window, &MainWindow::quitApplication);
+        QTimer watchdog;
+        watchdog.setSingleShot(true);
+        bool eventLoopEnded = true;
+        connect(&watchdog, &QTimer::timeout, [&eventLoopEnded] {
+            eventLoopEnded = false;
+            QCoreApplication::exit(1);
+        });
+        watchdog.start(60000);
+        QCOMPARE(QCoreApplication::exec(), 0);
+        QVERIFY(eventLoopEnded);
+        QVERIFY(ipc->isFinished());
+        QVERIFY(!window.isVisible());
+        QCOMPARE(QSettings().value(QStringLiteral("probe")).toInt(), 42);
+    }
+
+    void shouldEmitApplicationStateChanges()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        QSignalSpy spy(&window, &MainWindow::appStateChange);
+        emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+        emit qApp->applicationStateChanged(Qt::ApplicationActive);
+        QCOMPARE(spy.count(), 2);
+        QCOMPARE(spy.at(0).at(0).toBool(), false);
+        QCOMPARE(spy.at(1).at(0).toBool(), true);
+    }
+
+    void shouldLoadTranslationsOnlyForKnownLanguages_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("none") << -1 << QString();
+        QTest::newRow("en") << 0 << ":/translator/en-us.qm";
+        QTest::newRow("ja") << 1 << ":/translator/ja.qm";
+        QTest::newRow("zh-TW") << 2 << ":/translator/zh-TW.qm";
+        QTest::newRow("it") << 3 << ":/translator/it.qm";
+        QTest::newRow("de") << 4 << ":/translator/de.qm";
+        QTest::newRow("fr") << 5 << ":/translator/fr.qm";
+        QTest::newRow("6") << 6 << QString();
+        QTest::newRow("-5") << -5 << QString();
+    }
+
+    void shouldLoadTranslationsOnlyForKnownLanguages()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, file);
+        QCOMPARE(MainWindow::translationFile(index), file);
+        QTranslator translator;
+        MainWindow::installTranslator(&translator, index); // missing files fail quietly
+    }
+};
+
+KEYSTAGE_TEST_MAIN(MainWindowTest)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,94 @@
+#include "instancecheck.h"
+#include "logcapture.h"
+#include "startup.h"
+#include "startupflags.h"
+#include "testmain.h"
+
+using Flags = std::array<bool, StartupFlagCount>;
+Q_DECLARE_METATYPE(Flags)
+
+class StartupFlagsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void shouldExamineOnlyTheFirstArgument_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<Flags>("expected");
+        QTest::addColumn<QString>("path");
+        const Flags none{};
+        Flags background{};
+        background[RunInBackground] = true;
+        Flags wait{};
+        wait[WaitInstance] = true;
+        Flags open{};
+        open[OpenFile] = true;
+
+        QTest::newRow("no arguments") << QStringList{"keystage"} << none << QString();
+        QTest::newRow("runinbk") << QStringList{"keystage", "--runinbk"} << background << QString();
+        QTest::newRow("waitInst") << QStringList{"keystage", "--waitInst"} << wait << QString();
+        QTest::newRow("openFile with path") << QStringList{"keystage", "--openFile", "/x/a b.kslayout"} << open
+                                            << "/x/a b.kslayout";
+        QTest::newRow("openFile without path") << QStringList{"keystage", "--openFile"} << none << QString();
+        QTest::newRow("case matters") << QStringList{"keystage", "--RunInBk"} << none << QString();
+        QTest::newRow("option not first") << QStringList{"keystage", "file.txt", "--runinbk"} << none << QString();
+        QTest::newRow("second option ignored") << QStringList{"keystage", "--waitInst", "--runinbk"} << wait
+                                               << QString();
+        QTest::newRow("prefix only") << QStringList{"keystage", "--runinbk=1"} << none << QString();
+        QTest::newRow("empty first") << QStringList{"keystage", ""} << none << QString();
+    }
+
+    void shouldExamineOnlyTheFirstArgument()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(Flags, expected);
+        QFETCH(QString, path);
+        const StartupFlags flags = parseCommandLine(arguments);
+        QCOMPARE(flags.flags, expected);
+        QCOMPARE(flags.openFilePath, path);
+    }
+
+    void shouldQuitAtOnceWhenAnotherInstanceRunsAndNoWaitIsAsked()
+    {
+        int sleeps = 0;
+        QVERIFY(mustQuitForOtherInstance(
+            false, [] { return true; }, [&sleeps] { ++sleeps; }));
+        QCOMPARE(sleeps, 0);
+        QVERIFY(!mustQuitForOtherInstance(
+            false, [] { return false; }, [&sleeps] { ++sleeps; }));
+    }
+
+    void shouldWaitWithoutBoundUntilTheOtherInstanceHasGone()
+    {
+        LogCapture capture;
+        int checks = 0;
+        int sleeps = 0;
+        const bool quit = mustQuitForOtherInstance(
+            true, [&checks] { return ++checks <= 7; }, [&sleeps] { ++sleeps; });
+        QVERIFY(!quit);
+        QCOMPARE(sleeps, 7);
+        QCOMPARE(capture.matching(QStringLiteral("Wait another instance terminate.")).size(), 7);
+    }
+
+    void shouldKeepLanguageIndexInRange_data()
+    {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("-5") << -5 << -1;
+        QTest::newRow("-1") << -1 << -1;
+        QTest::newRow("0") << 0 << 0;
+        QTest::newRow("5") << 5 << 5;
+        QTest::newRow("6") << 6 << -1;
+    }
+
+    void shouldKeepLanguageIndexInRange()
+    {
+        QFETCH(int, stored);
+        QFETCH(int, expected);
+        QCOMPARE(Startup::checkedLanguageIndex(stored), expected);
+    }
+};
+
+KEYSTAGE_TEST_MAIN(StartupFlagsTest)
+#include "tst_startupflags.moc"

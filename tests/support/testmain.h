@@ -1,0 +1,35 @@
+#pragma once
+
+#include "testenvironment.h"
+
+#include <QApplication>
+#include <QThread>
+#include <QtTest>
+
+// Test entry with the program's identity and isolated user directories.
+// KEYSTAGE_TEST_MAIN_WITH(TestClass, hook): hook(argc, argv) runs first and
+// may return an exit code (>= 0) to act as a helper process instead.
+#define KEYSTAGE_TEST_MAIN_WITH(TestObject, hook)                                                                      \
+    int main(int argc, char** argv)                                                                                    \
+    {                                                                                                                  \
+        const int hookResult = hook(argc, argv);                                                                       \
+        if (hookResult >= 0)                                                                                           \
+            return hookResult;                                                                                         \
+        TestEnvironment environment;                                                                                   \
+        setTestEnvironment(&environment);                                                                              \
+        QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));                                             \
+        QCoreApplication::setApplicationName(QStringLiteral("Keystage"));                                              \
+        QCoreApplication::setApplicationVersion(QStringLiteral("1.3"));                                                \
+        QApplication app(argc, argv);                                                                                  \
+        QThread::currentThread()->setObjectName(QStringLiteral("UI Thread"));                                          \
+        TestObject test;                                                                                               \
+        QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
+
+inline int noTestHook(int, char**)
+{
+    return -1;
+}
+
+#define KEYSTAGE_TEST_MAIN(TestObject) KEYSTAGE_TEST_MAIN_WITH(TestObject, noTestHook)

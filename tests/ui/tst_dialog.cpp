@@ -1,0 +1,199 @@
+#include "clicklabel.h"
+#include "dialog.h"
+#include "testmain.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+QStringList visibleButtonTexts(const Dialog& dialog)
+{
+    QStringList texts;
+    for (int i = 0; i < 3; ++i) {
+        if (dialog.buttonAt(i)->isVisibleTo(&dialog))
+            texts << dialog.buttonAt(i)->text();
+    }
+    return texts;
+}
+
+void setUpDeleteQuestion(Dialog* dialog)
+{
+    dialog->setupDialog(QStringLiteral("Are you sure you want to delete this item?"),
+                        QStringLiteral("You can't undo this action."), QString(), QStringLiteral("Cancel"),
+                        QStringLiteral("Delete"), QStringLiteral("Don't ask me again"), Dialog::IconWarning,
+                        Dialog::MidButton);
+}
+
+// Runs exec() while the action acts on the shown dialog.
+template <class Action>
+void execWhileShown(Dialog* dialog, Action action)
+{
+    QTimer::singleShot(0, dialog, [dialog, action] {
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        action();
+    });
+    // A dialog that never closes fails the test instead of hanging it.
+    QTimer::singleShot(60000, dialog, [dialog] { dialog->done(-1); });
+    QVERIFY(dialog->exec() != -1);
+}
+
+} // namespace
+
+class DialogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { Dialog::clearNextAnswers(); }
+
+    void shouldStartWithTheFormDefaults()
+    {
+        Dialog dialog;
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
+        QCOMPARE(dialog.closeButton()->objectName(), QStringLiteral("SystemBtn_Close"));
+        QCOMPARE(dialog.checkBox()->text(), QStringLiteral("Don't show again"));
+        QCOMPARE(dialog.buttonAt(2)->text(), QStringLiteral("Cancel"));
+        QCOMPARE(dialog.answer(), QString());
+    }
+
+    void shouldShowExactlyTheButtonsGiven_data()
+    {
+        QTest::addColumn<QStringList>("given");
+        QTest::addColumn<QStringList>("shown");
+        QTest::newRow("mid and right") << QStringList{"", "Cancel", "Delete"} << QStringList{"Cancel", "Delete"};
+        QTest::newRow("all three") << QStringList{"A", "B", "C"} << QStringList{"A", "B", "C"};
+        QTest::newRow("left only") << QStringList{"Only", "", ""} << QStringList{"Only"};
+        QTest::newRow("none") << QStringList{"", "", ""} << QStringList{};
+    }
+
+    void shouldShowExactlyTheButtonsGiven()
+    {
+        QFETCH(QStringList, given);
+        QFETCH(QStringList, shown);
+        Dialog dialog;
+        dialog.setupDialog(QStringLiteral("subject"), QStringLiteral("text"), given.at(0), given.at(1), given.at(2),
+                           QString(), Dialog::IconWarning, Dialog::MidButton);
+        QCOMPARE(visibleButtonTexts(dialog), shown);
+    }
+
+    void shouldGiveTheDefaultLookToOneButtonOnly()
+    {
+        Dialog dialog;
+        setUpDeleteQuestion(&dialog);
+        QCOMPARE(dialog.buttonAt(0)->property("default").toBool(), false);
+        QCOMPARE(dialog.buttonAt(1)->property("default").toBool(), true);
+        QCOMPARE(dialog.buttonAt(2)->property("default").toBool(), false);
+        QVERIFY(dialog.buttonAt(1)->isDefault());
+    }
+
+    void shouldHideEmptyPartsAndReadUncheckedWithoutCheckBox()
+    {
+        Dialog dialog;
+        dialog.setupDialog(QString(), QStringLiteral("only text"), QString(), QStringLiteral("OK"), QString(),
+                           QString(), 7, Dialog::MidButton);
+        QVERIFY(!dialog.checkBox()->isVisibleTo(&dialog));
+        QVERIFY(!dialog.isChecked());
+        QVERIFY(!dialog.iconLabel()->isVisibleTo(&dialog));
+        QVERIFY(!dialog.findChild<QLabel*>(QStringLiteral("DialogSubject"))->isVisibleTo(&dialog));
+        QVERIFY(dialog.findChild<QLabel*>(QStringLiteral("DialogText"))->isVisibleTo(&dialog));
+    }
+
+    void shouldShowTheIconOfEachKind_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<bool>("visible");
+        QTest::newRow("logo") << 1 << true;
+        QTest::newRow("warning") << 2 << true;
+        QTest::newRow("close") << 3 << true;
+        QTest::newRow("none") << 0 << false;
+        QTest::newRow("unknown") << 4 << false;
+    }
+
+    void shouldShowTheIconOfEachKind()
+    {
+        QFETCH(int, kind);
+        QFETCH(bool, visible);
+        Dialog dialog;
+        dialog.setupDialog(QStringLiteral("s"), QString(), QString(), QStringLiteral("OK"), QString(), QString(), kind,
+                           Dialog::MidButton);
+        QCOMPARE(dialog.iconLabel()->isVisibleTo(&dialog), visible);
+        QCOMPARE(!dialog.iconLabel()->pixmap(Qt::ReturnByValue).isNull(), visible);
+    }
+
+    void shouldReportTheClickedTextAndTheCheckState()
+    {
+        Dialog dialog;
+        setUpDeleteQuestion(&dialog);
+        execWhileShown(&dialog, [&dialog] {
+            QTest::mouseClick(dialog.checkBox(), Qt::LeftButton, {}, QPoint(4, dialog.checkBox()->height() / 2));
+            QTest::mouseClick(dialog.buttonAt(2), Qt::LeftButton);
+        });
+        QCOMPARE(dialog.answer(), QStringLiteral("Delete"));
+        QVERIFY(dialog.isChecked());
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void shouldAnswerNothingWhenClosedByTheTitleBar()
+    {
+        Dialog dialog;
+        setUpDeleteQuestion(&dialog);
+        execWhileShown(&dialog, [&dialog] { QTest::mouseClick(dialog.closeButton(), Qt::LeftButton); });
+        QCOMPARE(dialog.answer(), QString());
+        QVERIFY(!dialog.isChecked());
+    }
+
+    void shouldClearTheLastAnswerOnANewSetup()
+    {
+        Dialog dialog;
+        setUpDeleteQuestion(&dialog);
+        execWhileShown(&dialog, [&dialog] { QTest::mouseClick(dialog.buttonAt(1), Qt::LeftButton); });
+        QCOMPARE(dialog.answer(), QStringLiteral("Cancel"));
+        setUpDeleteQuestion(&dialog);
+        QCOMPARE(dialog.answer(), QString());
+        QVERIFY(!dialog.checkBox()->isChecked());
+    }
+
+    void shouldAnswerFromTheSeamWithoutShowing()
+    {
+        Dialog::setNextAnswer(QStringLiteral("Delete"), true);
+        Dialog::setNextAnswer(QStringLiteral("Cancel"));
+        Dialog first;
+        setUpDeleteQuestion(&first);
+        first.exec();
+        QCOMPARE(first.answer(), QStringLiteral("Delete"));
+        QVERIFY(first.isChecked());
+        QVERIFY(!first.isVisible());
+        Dialog second;
+        setUpDeleteQuestion(&second);
+        second.exec();
+        QCOMPARE(second.answer(), QStringLiteral("Cancel"));
+        QVERIFY(!second.isChecked());
+    }
+
+    void shouldFollowTheApplicationsActiveState()
+    {
+        Dialog dialog;
+        QWidget* titleBar = dialog.findChild<QWidget*>(QStringLiteral("TitleBar"));
+        QVERIFY(titleBar);
+        dialog.onAppStateChange(false);
+        QCOMPARE(titleBar->property("active").toBool(), false);
+        dialog.onAppStateChange(true);
+        QCOMPARE(titleBar->property("active").toBool(), true);
+    }
+
+    void shouldShowHoverOnTheCloseButton()
+    {
+        Dialog dialog;
+        QEvent enter(QEvent::Enter);
+        QEvent leave(QEvent::Leave);
+        dialog.onTitleBarButtonMouseEvent(dialog.closeButton(), &enter);
+        QCOMPARE(dialog.closeButton()->property("hover").toBool(), true);
+        dialog.onTitleBarButtonMouseEvent(dialog.closeButton(), &leave);
+        QCOMPARE(dialog.closeButton()->property("hover").toBool(), false);
+    }
+};
+
+KEYSTAGE_TEST_MAIN(DialogTest)
+#include "tst_dialog.moc"

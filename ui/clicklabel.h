@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QEvent>
+#include <QLabel>
+
+// A label that acts as a small button: title bar buttons and other picture
+// buttons report clicks and hover through it.
+class ClickLabel : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit ClickLabel(QWidget* parent = nullptr);
+
+signals:
+    void mouseClicked(ClickLabel* pad);
+    // QEvent::Enter or QEvent::Leave.
+    void mouseEnterLeaveEvent(ClickLabel* pad, QEvent* e);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void enterEvent(QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    bool m_pressed = false;
+};
