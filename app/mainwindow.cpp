@@ -223,8 +223,7 @@ void MainWindow::showAboutBox()
     about.setTitle(tr("About %1").arg(QCoreApplication::applicationName()));
     about.setupDialog(QStringLiteral("%1 %2").arg(QCoreApplication::applicationName(),
                                                   QCoreApplication::applicationVersion()),
-                      tr("The desktop companion of your LCD macro keypad.\nVersion %1")
-                          .arg(QCoreApplication::applicationVersion()),
+                      tr("The desktop companion of your LCD macro keypad."),
                       QString(), QString(), tr("OK"), QString(), Dialog::IconLogo, Dialog::RightButton);
     about.exec();
 }

@@ -1,0 +1,38 @@
+# Shared by run.sh and test.sh: install missing Debian packages, then
+# configure and build incrementally in build/.
+set -euo pipefail
+
+ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+BUILD_DIR=${KEYSTAGE_BUILD_DIR:-$ROOT/build}
+
+ensure_packages() {
+    local wanted missing=()
+    wanted=$(grep -v '^[[:space:]]*#' "$ROOT/scripts/debian-packages.txt" | awk 'NF { print $1 }')
+    for package in $wanted; do
+        if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
+            missing+=("$package")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    echo "Installing Debian packages: ${missing[*]}"
+    local sudo=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "Missing packages and no sudo; as root run: apt-get install ${missing[*]}" >&2
+            exit 1
+        fi
+        sudo=(sudo)
+        # Without a terminal (CI) sudo must not wait for a password.
+        [ -t 0 ] || sudo+=(-n)
+    fi
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+build() {
+    if [ ! -f "$BUILD_DIR/build.ninja" ]; then
+        cmake -S "$ROOT" -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo
+    fi
+    cmake --build "$BUILD_DIR" --parallel "$(nproc)"
+}

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# Builds Keystage (installing what it needs) and runs every test.
+# Extra arguments go to ctest, e.g. scripts/test.sh -R tst_log
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+ensure_packages
+build
+cd "$BUILD_DIR"
+# No test may wait for input or a display it was not given.
+export QT_QPA_PLATFORM=offscreen
+exec ctest --output-on-failure --parallel "$(nproc)" --timeout 600 "$@" </dev/null
