@@ -5,7 +5,8 @@
 
 // The two hand-over requests a starting process can leave for the instance
 // that already runs. The files live in the per-user runtime directory.
-enum IpcToken {
+enum IpcToken
+{
     TokenBringToFront = 0, // "TOKEN_BringAppToFront", contents "vse"
     TokenOpenFile = 1,     // "TOKEN_OpenExtensionFile", contents the path in UTF-8
 };
@@ -18,7 +19,8 @@ QString ipcTokenPath(int token);
 // link planted at the token's path. Returns whether the file was opened.
 bool sendIpcToken(int token, const QVariant& payload = QVariant());
 
-enum class TokenRead {
+enum class TokenRead
+{
     Absent,     // no such file
     Unreadable, // there, but cannot be opened: leave it for the next pass
     NotAFile,   // a symbolic link planted at the path: never followed

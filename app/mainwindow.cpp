@@ -128,8 +128,8 @@ void MainWindow::buildWindow()
     // The frame's border belongs to the column's 400 pixels.
     m_rightColumn->setFixedWidth(RightColumnWidth - 2 * FrameBorder);
     auto* column = new QVBoxLayout(m_rightColumn);
-    column->addWidget(placeholder(tr("Drag an action from above list and drop into section on the left."),
-                                  m_rightColumn));
+    column->addWidget(
+        placeholder(tr("Drag an action from above list and drop into section on the left."), m_rightColumn));
     content->addWidget(m_rightColumn);
     frameLayout->addLayout(content, 1);
 
@@ -221,10 +221,10 @@ void MainWindow::showAboutBox()
 {
     Dialog about(this);
     about.setTitle(tr("About %1").arg(QCoreApplication::applicationName()));
-    about.setupDialog(QStringLiteral("%1 %2").arg(QCoreApplication::applicationName(),
-                                                  QCoreApplication::applicationVersion()),
-                      tr("The desktop companion of your LCD macro keypad."),
-                      QString(), QString(), tr("OK"), QString(), Dialog::IconLogo, Dialog::RightButton);
+    about.setupDialog(
+        QStringLiteral("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion()),
+        tr("The desktop companion of your LCD macro keypad."), QString(), QString(), tr("OK"), QString(),
+        Dialog::IconLogo, Dialog::RightButton);
     about.exec();
 }
 

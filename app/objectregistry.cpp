@@ -74,8 +74,8 @@ void ObjectRegistry::reportWrongType(ComponentId id, const char* wanted, const c
                                      int line)
 {
     LOG_MSG(QStringLiteral("ERROR: component %1 is not a %2, wanted by %3 in %4:%5!!")
-                .arg(QString::number(static_cast<int>(id)), QString::fromLatin1(wanted),
-                     QString::fromLatin1(function), QString::fromLatin1(file), QString::number(line)));
+                .arg(QString::number(static_cast<int>(id)), QString::fromLatin1(wanted), QString::fromLatin1(function),
+                     QString::fromLatin1(file), QString::number(line)));
 }
 
 void ObjectRegistry::clear()

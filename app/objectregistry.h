@@ -6,7 +6,8 @@
 class Log;
 
 // Numbers under which the main window enters the shared single objects.
-enum class ComponentId : int {
+enum class ComponentId : int
+{
     MainWindow = 0,
     KeyItemModel = 1,
     HidComm = 5,
@@ -49,8 +50,7 @@ public:
     static void clear();
 
 private:
-    static void reportWrongType(ComponentId id, const char* wanted, const char* file, const char* function,
-                                int line);
+    static void reportWrongType(ComponentId id, const char* wanted, const char* file, const char* function, int line);
 };
 
 // COMPONENT(KeyItemModel, ComponentId::KeyItemModel) -> KeyItemModel*, or

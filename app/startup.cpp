@@ -29,8 +29,7 @@ void Startup::resolveInstance(StartupFlags* flags)
 {
     const QString ownName = ownImageBaseName();
     const bool mustQuit = mustQuitForOtherInstance(
-        (*flags)[WaitInstance], [&ownName] { return isAnotherInstanceRunning(ownName); },
-        [] { QThread::msleep(500); });
+        (*flags)[WaitInstance], [&ownName] { return isAnotherInstanceRunning(ownName); }, [] { QThread::msleep(500); });
     if (mustQuit) {
         flags->set(QuitAtOnce);
         flags->set(BringToFront);

@@ -4,7 +4,8 @@
 #include <array>
 
 // What the command line and the instance check decided, in this fixed order.
-enum StartupFlag {
+enum StartupFlag
+{
     RunInBackground = 0, // "--runinbk"
     WaitInstance = 1,    // "--waitInst": wait until the previous process has gone (restart)
     OpenFile = 2,        // "--openFile PATH"

@@ -4,7 +4,8 @@
 
 // The six ways the keypad can be used: three sizes, each held horizontally
 // (H) or vertically (V). Stored as a 32-bit value; anything else is invalid.
-enum KeyLayout : qint32 {
+enum KeyLayout : qint32
+{
     H_Key_6 = 0,
     V_Key_6 = 1,
     H_Key_15 = 2,

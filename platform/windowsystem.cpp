@@ -12,7 +12,6 @@ std::unique_ptr<WindowSystem> WindowSystem::create()
     const QString platform = QGuiApplication::platformName();
     if (platform == QLatin1String("xcb"))
         return std::make_unique<X11WindowSystem>();
-    return std::make_unique<GenericWindowSystem>(platform.startsWith(QLatin1String("wayland"))
-                                                     ? QStringLiteral("wayland")
-                                                     : platform);
+    return std::make_unique<GenericWindowSystem>(
+        platform.startsWith(QLatin1String("wayland")) ? QStringLiteral("wayland") : platform);
 }

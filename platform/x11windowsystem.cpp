@@ -56,8 +56,7 @@ void X11WindowSystem::activateWindow(QWindow* window)
     event.data.data32[2] = XCB_WINDOW_NONE;
 
     const xcb_window_t root = xcb_window_t(QX11Info::appRootWindow());
-    xcb_send_event(connection, 0, root,
-                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+    xcb_send_event(connection, 0, root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<const char*>(&event));
     xcb_flush(connection);
 }

@@ -145,9 +145,8 @@ void Dialog::setupTitleBar()
         connect(mainWindow, SIGNAL(appStateChange(bool)), this, SLOT(onAppStateChange(bool)));
 }
 
-void Dialog::setupDialog(const QString& subject, const QString& text, const QString& leftText,
-                         const QString& midText, const QString& rightText, const QString& checkBoxText,
-                         int iconKind, int defaultButton)
+void Dialog::setupDialog(const QString& subject, const QString& text, const QString& leftText, const QString& midText,
+                         const QString& rightText, const QString& checkBoxText, int iconKind, int defaultButton)
 {
     m_subject->setText(subject);
     m_subject->setVisible(!subject.isEmpty());

@@ -17,13 +17,15 @@ class Dialog : public QDialog
 {
     Q_OBJECT
 public:
-    enum IconKind {
+    enum IconKind
+    {
         NoIcon = 0,
         IconLogo = 1,    // icn_logo
         IconWarning = 2, // icn_warning
         IconClose = 3,   // mtb_cloes
     };
-    enum DefaultButton {
+    enum DefaultButton
+    {
         LeftButton = 0,
         MidButton = 1,
         RightButton = 2,

@@ -32,8 +32,8 @@ TitleBar::TitleBar(Buttons buttons, QWidget* parent) : QWidget(parent)
 
     m_logo = new QLabel(this);
     m_logo->setObjectName(QStringLiteral("TitleBarLogo"));
-    m_logo->setPixmap(QPixmap(QStringLiteral(":/images/icn_logo.png"))
-                          .scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    m_logo->setPixmap(
+        QPixmap(QStringLiteral(":/images/icn_logo.png")).scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     layout->addWidget(m_logo);
 
     m_title = new QLabel(this);
@@ -43,8 +43,8 @@ TitleBar::TitleBar(Buttons buttons, QWidget* parent) : QWidget(parent)
     if (buttons & AboutButton)
         m_about = addButton(AboutButton, QStringLiteral("SystemBtn_About"), QStringLiteral("btn_about"), tr("About"));
     if (buttons & MinimizeButton)
-        m_minimize = addButton(MinimizeButton, QStringLiteral("SystemBtn_Min"), QStringLiteral("btn_minimize"),
-                               tr("Minimize"));
+        m_minimize =
+            addButton(MinimizeButton, QStringLiteral("SystemBtn_Min"), QStringLiteral("btn_minimize"), tr("Minimize"));
     if (buttons & CloseButton)
         m_close = addButton(CloseButton, QStringLiteral("SystemBtn_Close"), QStringLiteral("btn_close"), tr("Close"));
 

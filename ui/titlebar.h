@@ -12,7 +12,8 @@ class TitleBar : public QWidget
 {
     Q_OBJECT
 public:
-    enum Button {
+    enum Button
+    {
         NoButton = 0x0,
         AboutButton = 0x1,
         MinimizeButton = 0x2,

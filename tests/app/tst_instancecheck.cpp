@@ -103,10 +103,7 @@ private slots:
         own.waitForFinished(30000);
     }
 
-    void shouldCountNothingForAnEmptyName()
-    {
-        QVERIFY(!isAnotherInstanceRunning(QString()));
-    }
+    void shouldCountNothingForAnEmptyName() { QVERIFY(!isAnotherInstanceRunning(QString())); }
 };
 
 KEYSTAGE_TEST_MAIN_WITH(InstanceCheckTest, sleepHelper)

@@ -35,8 +35,8 @@ QList<ParsedEntry> parseEntries(const QString& text, bool* wellFormed)
             *wellFormed = false;
             break;
         }
-        entries.append({match.captured(1).toLongLong(), match.captured(2), match.captured(3).toInt(),
-                        match.captured(4), match.captured(5), match.captured(6)});
+        entries.append({match.captured(1).toLongLong(), match.captured(2), match.captured(3).toInt(), match.captured(4),
+                        match.captured(5), match.captured(6)});
         position = match.capturedEnd();
     }
     return entries;
@@ -69,7 +69,8 @@ private slots:
         QCOMPARE(Log::logDirectory(), testEnvironment()->logDirectory());
         Log log;
         QVERIFY(log.isOpen());
-        QVERIFY(QFileInfo(log.filePath()).fileName().contains(QRegularExpression(QStringLiteral("^\\d{8}_\\d{6}\\.txt$"))));
+        QVERIFY(
+            QFileInfo(log.filePath()).fileName().contains(QRegularExpression(QStringLiteral("^\\d{8}_\\d{6}\\.txt$"))));
         QCOMPARE(QFileInfo(log.filePath()).absolutePath(), testEnvironment()->logDirectory());
     }
 
@@ -78,7 +79,8 @@ private slots:
         QDir().mkpath(Log::logDirectory());
         QStringList oldNames;
         for (int i = 1; i <= 25; ++i) {
-            const QString name = QStringLiteral("2020010%1_0000%2.txt").arg(i / 10).arg(i % 10, 2, 10, QLatin1Char('0'));
+            const QString name =
+                QStringLiteral("2020010%1_0000%2.txt").arg(i / 10).arg(i % 10, 2, 10, QLatin1Char('0'));
             QFile file(Log::logDirectory() + QLatin1Char('/') + name);
             QVERIFY(file.open(QIODevice::WriteOnly));
             oldNames << name;
@@ -153,7 +155,8 @@ private slots:
         QVERIFY(readAll(log.filePath()).contains(QStringLiteral("\n\tdurable\n\n")));
         const QStringList echoes = capture.matching(QStringLiteral("durable"));
         QCOMPARE(echoes.size(), 1);
-        QVERIFY(echoes.first().startsWith(QStringLiteral("LOGMSG LogTest::shouldEchoEveryEntryAndHaveItOnDiskAtOnce,")));
+        QVERIFY(
+            echoes.first().startsWith(QStringLiteral("LOGMSG LogTest::shouldEchoEveryEntryAndHaveItOnDiskAtOnce,")));
     }
 
     void shouldRouteToDebugOutputBeforeMainWindowRegisters()
@@ -161,7 +164,8 @@ private slots:
         Log log;
         LogCapture capture;
         LOG_MSG(QStringLiteral("too early"));
-        QCOMPARE(capture.matching(QStringLiteral("too early")), QStringList{QStringLiteral("Log file not created: too early")});
+        QCOMPARE(capture.matching(QStringLiteral("too early")),
+                 QStringList{QStringLiteral("Log file not created: too early")});
         QCOMPARE(readAll(log.filePath()), QString());
     }
 

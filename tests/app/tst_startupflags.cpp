@@ -28,13 +28,13 @@ private slots:
         QTest::newRow("no arguments") << QStringList{"keystage"} << none << QString();
         QTest::newRow("runinbk") << QStringList{"keystage", "--runinbk"} << background << QString();
         QTest::newRow("waitInst") << QStringList{"keystage", "--waitInst"} << wait << QString();
-        QTest::newRow("openFile with path") << QStringList{"keystage", "--openFile", "/x/a b.kslayout"} << open
-                                            << "/x/a b.kslayout";
+        QTest::newRow("openFile with path")
+            << QStringList{"keystage", "--openFile", "/x/a b.kslayout"} << open << "/x/a b.kslayout";
         QTest::newRow("openFile without path") << QStringList{"keystage", "--openFile"} << none << QString();
         QTest::newRow("case matters") << QStringList{"keystage", "--RunInBk"} << none << QString();
         QTest::newRow("option not first") << QStringList{"keystage", "file.txt", "--runinbk"} << none << QString();
-        QTest::newRow("second option ignored") << QStringList{"keystage", "--waitInst", "--runinbk"} << wait
-                                               << QString();
+        QTest::newRow("second option ignored")
+            << QStringList{"keystage", "--waitInst", "--runinbk"} << wait << QString();
         QTest::newRow("prefix only") << QStringList{"keystage", "--runinbk=1"} << none << QString();
         QTest::newRow("empty first") << QStringList{"keystage", ""} << none << QString();
     }
