@@ -85,7 +85,7 @@ void MainWindow::buildWindow()
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(QCoreApplication::applicationName());
-    setWindowIcon(QIcon(QStringLiteral(":/images/icn_logo.png")));
+    setWindowIcon(QIcon(QStringLiteral(":/image/icn_logo.png")));
 
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);

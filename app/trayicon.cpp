@@ -16,7 +16,7 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
     connect(m_about, &QAction::triggered, this, &TrayIcon::aboutRequested);
     connect(m_quit, &QAction::triggered, this, &TrayIcon::quitRequested);
 
-    m_icon = new QSystemTrayIcon(QIcon(QStringLiteral(":/images/icn_tray.png")), this);
+    m_icon = new QSystemTrayIcon(QIcon(QStringLiteral(":/image/icn_tray.png")), this);
     m_icon->setToolTip(QCoreApplication::applicationName());
     m_icon->setContextMenu(m_menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {

@@ -43,11 +43,11 @@ QString iconResource(int iconKind)
 {
     switch (iconKind) {
     case Dialog::IconLogo:
-        return QStringLiteral(":/images/icn_logo.png");
+        return QStringLiteral(":/image/icn_logo.png");
     case Dialog::IconWarning:
-        return QStringLiteral(":/images/icn_warning.png");
+        return QStringLiteral(":/image/icn_warning.png");
     case Dialog::IconClose:
-        return QStringLiteral(":/images/mtb_cloes.png");
+        return QStringLiteral(":/image/mtb_cloes.png");
     default:
         return QString();
     }

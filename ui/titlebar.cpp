@@ -33,7 +33,7 @@ TitleBar::TitleBar(Buttons buttons, QWidget* parent) : QWidget(parent)
     m_logo = new QLabel(this);
     m_logo->setObjectName(QStringLiteral("TitleBarLogo"));
     m_logo->setPixmap(
-        QPixmap(QStringLiteral(":/images/icn_logo.png")).scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        QPixmap(QStringLiteral(":/image/icn_logo.png")).scaled(20, 20, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     layout->addWidget(m_logo);
 
     m_title = new QLabel(this);
@@ -60,7 +60,7 @@ ClickLabel* TitleBar::addButton(Button which, const QString& objectName, const Q
     button->setToolTip(toolTip);
     button->setFixedSize(ButtonSize, ButtonSize);
     button->setAlignment(Qt::AlignCenter);
-    button->setPixmap(QPixmap(QStringLiteral(":/images/%1.png").arg(iconName))
+    button->setPixmap(QPixmap(QStringLiteral(":/image/%1.png").arg(iconName))
                           .scaled(ButtonIconSize, ButtonIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     button->setProperty("hover", false);
     connect(button, &ClickLabel::mouseEnterLeaveEvent, this, &TitleBar::updateButtonHover);

@@ -1,0 +1,146 @@
+// Writes the seed files of the export file fuzzer: small, valid layout and
+// favourites files covering every kind of value the key maps hold, plus a few
+// invalid ones. Usage: fuzz_make_corpus DIRECTORY
+
+#include "settings.h"
+#include "settingskeys.h"
+
+#include <QColor>
+#include <QDataStream>
+#include <QDir>
+#include <QFile>
+#include <QFont>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QTextStream>
+
+namespace {
+
+QVariantMap face(const QString& text, bool withImage)
+{
+    QVariantMap map{{QStringLiteral("hintFlags"), 1},
+                    {QStringLiteral("text"), text},
+                    {QStringLiteral("textAlign"), 68},
+                    {QStringLiteral("textFont"), QFont(QStringLiteral("DejaVu Sans"), 9)},
+                    {QStringLiteral("textColor"), QColor(255, 255, 255)},
+                    {QStringLiteral("defImgPath"), QStringLiteral("btn_textstring")}};
+    if (withImage) {
+        QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
+        image.fill(qPremultiply(qRgba(200, 40, 40, 128)));
+        map.insert(QStringLiteral("userImg"), QPixmap::fromImage(image));
+    } else {
+        map.insert(QStringLiteral("userImg"), QPixmap());
+    }
+    return map;
+}
+
+QVariantMap key(const QString& type, int index, const QVariantMap& action, const QVariantMap& look)
+{
+    return {{QStringLiteral("actionTypeString"), type},
+            {QStringLiteral("multiFeatureFlag"), false},
+            {QStringLiteral("keyIdx"), index},
+            {QStringLiteral("cfIdx"), 0},
+            {QStringLiteral("layout"), 3},
+            {QStringLiteral("keyActionMap_0"), action},
+            {QStringLiteral("keyRenderMap_0"), look}};
+}
+
+QVariantMap pasteKey(int index, bool withImage)
+{
+    return key(QStringLiteral("KAT_PASTE_STRING"), index, {{QStringLiteral("strText"), QStringLiteral("hello")}},
+               face(QStringLiteral("Paste"), withImage));
+}
+
+QVariantMap macroKey(int index)
+{
+    const QVariantMap press{
+        {QStringLiteral("qtKeyCode"), 65}, {QStringLiteral("nativeKeyCode"), 38}, {QStringLiteral("isPress"), true}};
+    const QVariantMap release{
+        {QStringLiteral("qtKeyCode"), 65}, {QStringLiteral("nativeKeyCode"), 38}, {QStringLiteral("isPress"), false}};
+    return key(QStringLiteral("KAT_MACROKEY"), index,
+               {{QStringLiteral("MarcoKeyItemCnt"), 2},
+                {QStringLiteral("MarcoKeyItem_0"), press},
+                {QStringLiteral("MarcoKeyItem_1"), release}},
+               face(QStringLiteral("Macro"), false));
+}
+
+QVariantMap folderKey(int index)
+{
+    const QVariantMap back = key(QStringLiteral("KAT_LINK_BUTTON"), 14,
+                                 {{QStringLiteral("comment"), QStringLiteral("link button")}}, face(QString(), false));
+    return key(QStringLiteral("KAT_FOLDER"), index,
+               {{QStringLiteral("childListCnt"), 2},
+                {QStringLiteral("isExpend"), false},
+                {QStringLiteral("appName"), QStringLiteral("firefox")},
+                {QStringLiteral("childMap_0"), pasteKey(0, false)},
+                {QStringLiteral("childMap_1"), back}},
+               face(QStringLiteral("Folder"), false));
+}
+
+bool write(const QString& directory, const QString& name, const QByteArray& bytes)
+{
+    QFile file(QDir(directory).filePath(name));
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        QTextStream(stderr) << "usage: fuzz_make_corpus DIRECTORY" << Qt::endl;
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    const QString directory = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(directory);
+
+    const QVariantMap layout{{SettingsKeys::KeyCnt, 3},
+                             {SettingsKeys::keyMapKey(0), pasteKey(0, true)},
+                             {SettingsKeys::keyMapKey(1), macroKey(1)},
+                             {SettingsKeys::keyMapKey(2), folderKey(2)}};
+    const QVariantMap favourites{{SettingsKeys::KeyCnt, 2},
+                                 {SettingsKeys::keyMapKey(0), pasteKey(0, false)},
+                                 {SettingsKeys::keyMapKey(1), macroKey(1)}};
+    // Values the program does not write today but the reader accepts.
+    const QVariantMap otherValues{{QStringLiteral("list"), QVariantList{1, QStringLiteral("two"), QVariantMap()}},
+                                  {QStringLiteral("names"), QStringList{QStringLiteral("a"), QString()}},
+                                  {QStringLiteral("bytes"), QByteArray("\x00\x01", 2)},
+                                  {QStringLiteral("big"), qlonglong(1) << 40},
+                                  {QStringLiteral("real"), 0.5},
+                                  {QStringLiteral("none"), QVariant()}};
+
+    // The favourites file with the first digit of its checksum changed.
+    QByteArray badChecksum = Settings::encodeExportFile(SettingsKeys::MyFavorite, favourites);
+    const QString sum = Settings::checksum({{SettingsKeys::MyFavorite, favourites}});
+    QByteArray sumText;
+    for (const QChar c : sum)
+        sumText.append('\0').append(char(c.unicode()));
+    const int tag = badChecksum.indexOf(sumText);
+    if (tag < 0)
+        return 1;
+    badChecksum[tag + 1] = sum.at(0) == QLatin1Char('0') ? '1' : '0';
+
+    QByteArray forged;
+    {
+        QDataStream stream(&forged, QIODevice::WriteOnly);
+        stream << quint32(0x7fffffff) << quint32(0xfffffff0);
+    }
+
+    const bool ok =
+        write(directory, QStringLiteral("layout_keys"), Settings::encodeExportFile(SettingsKeys::MyLayout, layout)) &&
+        write(directory, QStringLiteral("layout_empty"), Settings::encodeExportFile(SettingsKeys::MyLayout, {})) &&
+        write(directory, QStringLiteral("favorites_keys"),
+              Settings::encodeExportFile(SettingsKeys::MyFavorite, favourites)) &&
+        write(directory, QStringLiteral("favorites_other_values"),
+              Settings::encodeExportFile(SettingsKeys::MyFavorite, otherValues)) &&
+        write(directory, QStringLiteral("favorites_bad_checksum"), badChecksum) &&
+        write(directory, QStringLiteral("forged_counts"), forged);
+    if (!ok) {
+        QTextStream(stderr) << "cannot write into " << directory << Qt::endl;
+        return 1;
+    }
+    return 0;
+}

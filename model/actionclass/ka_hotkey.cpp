@@ -1,0 +1,32 @@
+#include "ka_hotkey.h"
+
+#include "keyitem.h"
+
+KA_HotKey::KA_HotKey(KeyItem* owner) : owner(owner) {}
+
+void KA_HotKey::copyFrom(const KA_HotKey& src)
+{
+    keyCmd = src.keyCmd;
+    keyOption = src.keyOption;
+    keyCtrl = src.keyCtrl;
+    keyShift = src.keyShift;
+    qtKeyCode = src.qtKeyCode;
+    nativeCode = src.nativeCode;
+}
+
+KeyActionType KA_HotKey::getActionType() const
+{
+    return owner ? owner->actionType : KAT_HOTKEY;
+}
+
+bool KA_HotKey::isValid() const
+{
+    return nativeCode != -1;
+}
+
+void KA_HotKey::reset()
+{
+    keyCmd = keyOption = keyCtrl = keyShift = false;
+    qtKeyCode = -1;
+    nativeCode = -1;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "keyactionabstr.h"
+
+// The back key in the last position of every folder page.
+class KA_LinkButton : public KeyActionAbstr
+{
+    Q_OBJECT
+public:
+    KeyActionType getActionType() const override;
+    bool isValid() const override;
+    void reset() override;
+};

@@ -1,0 +1,143 @@
+#pragma once
+
+#include "settingskeys.h"
+
+#include <QByteArray>
+#include <QLatin1String>
+#include <QMutex>
+#include <QObject>
+#include <QSettings>
+#include <QString>
+#include <QVariant>
+#include <QVariantMap>
+
+#include <functional>
+
+// The whole persistent configuration of the program: one QVariantMap tree,
+// stored as the single value "inst" of Keystage.conf together with an MD5
+// checksum, plus the export files of a layout and of the favourites.
+//
+// The tree may be read and changed from any thread; disk access (the
+// constructor, save, export and import) belongs to the GUI thread.
+//
+// Defaults: the constructor falls back to an almost empty tree (only
+// "SettingsVersion") when the stored one is missing or damaged. The key model
+// fills in the pages of every layout itself when it finds none, so nothing
+// else is needed at start-up. For an explicit reset (preferences) the model
+// may install a provider of its full default tree with
+// setDefaultTreeProvider(); resetToDefaults() uses it.
+class Settings : public QObject
+{
+    Q_OBJECT
+public:
+    // Written into the tree on every reset and save.
+    static constexpr QLatin1String Version = SettingsKeys::literal("1.3");
+
+    // Limits for untrusted export files. A real layout with an image on every
+    // key of a full folder tree stays far below each of them.
+    static constexpr qint64 MaxExportFileSize = 64 * 1024 * 1024;
+    // Maps and lists inside each other; real files need about eight levels.
+    static constexpr int MaxNestingDepth = 32;
+    // Map entries, list elements and image chunks in one file.
+    static constexpr int MaxValueCount = 1 << 20;
+    // Width and height of an image inside a file; key images are 72 x 72.
+    static constexpr int MaxImageSide = 4096;
+
+    enum class ExportKind
+    {
+        Invalid,
+        Layout,
+        Favorite,
+    };
+
+    enum class ImportProblem
+    {
+        None,
+        Unreadable,
+        NotAnExportFile,
+        ChecksumMismatch,
+    };
+
+    // What an export file holds, or why it cannot be used.
+    struct ExportFile
+    {
+        ExportKind kind = ExportKind::Invalid;
+        // The "MYLAYOUT" page tree or the "MYFAVORITE" key list map.
+        QVariantMap content;
+        ImportProblem problem = ImportProblem::None;
+        // For the user, translated; empty when the file is valid.
+        QString error;
+        // For the log: what exactly was wrong.
+        QString detail;
+
+        bool isValid() const { return kind != ExportKind::Invalid; }
+    };
+
+    explicit Settings(QObject* parent = nullptr);
+    ~Settings() override;
+
+    QVariant value(const QString& key, const QVariant& defaultValue = QVariant()) const;
+    void setValue(const QString& key, const QVariant& value);
+    void remove(const QString& key);
+    bool contains(const QString& key) const;
+    // A copy of the whole tree.
+    QVariantMap tree() const;
+
+    // Called without any lock held, so the provider may use this object.
+    void setDefaultTreeProvider(std::function<QVariantMap()> provider);
+    // Replaces the tree by the defaults; the file changes at the next save().
+    void resetToDefaults();
+    // True when the stored tree was missing or damaged and the defaults were loaded.
+    bool loadedDefaults() const;
+
+    QString fileName() const;
+    // Where the constructor kept the damaged settings file, empty if it had none to keep.
+    QString damagedCopyPath() const;
+
+    // Writes the tree with the favourites ("MYFAVORITE") or with the current
+    // layout's pages ("MYLAYOUT"). False when the file cannot be written.
+    bool exportMyFavorite(const QString& fileName) const;
+    bool exportSetting(const QString& fileName) const;
+
+    // Reads an export file and hands its content to the key model through
+    // settingImported() or myFavoriteImported().
+    ExportFile importFile(const QString& fileName);
+
+    // MD5 (lower-case hex) of the map's QDataStream form, without any "CHKSUM_TAG" entry.
+    static QString checksum(const QVariantMap& map);
+
+    // The bytes of an export file: the map {contentKey: content} with its checksum.
+    static QByteArray encodeExportFile(const QString& contentKey, const QVariantMap& content);
+
+    // Export files come from anywhere: both readers treat the bytes as hostile
+    // and never allocate more than the limits above allow.
+    static ExportFile readExportFile(const QString& fileName);
+    static ExportFile parseExportFile(const QByteArray& bytes);
+
+    // A count read from untrusted maps ("KeyCnt", "childListCnt", ...): 0 when
+    // missing, negative or not an integer, at most limit.
+    static int boundedCount(const QVariantMap& map, const QString& key, int limit);
+
+public slots:
+    // Stores the tree with its checksum; false when the file could not be written.
+    bool save();
+
+signals:
+    void settingImported(const QVariantMap& layout);
+    void myFavoriteImported(const QVariantMap& favorites);
+
+private:
+    QVariantMap defaultTree() const;
+    void keepDamagedCopy();
+    bool readStoredTree(QVariantMap* tree);
+
+    mutable QMutex m_treeMutex;
+    QVariantMap m_tree;
+    bool m_loadedDefaults = false;
+    std::function<QVariantMap()> m_defaultTreeProvider;
+
+    // QSettings is reentrant, not thread-safe: one thread at a time uses it.
+    mutable QMutex m_storeMutex;
+    QSettings m_store;
+    QString m_damagedCopyPath;
+};
