@@ -1,10 +1,15 @@
 #include "mainwindow.h"
 
+#include "buttonlayoutconfig.h"
 #include "clicklabel.h"
 #include "dialog.h"
+#include "favoritekeyitemmodel.h"
 #include "ipc_thread.h"
+#include "keyitemmodel.h"
 #include "logging.h"
 #include "objectregistry.h"
+#include "settings.h"
+#include "settingskeys.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "trayicon.h"
@@ -13,6 +18,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -53,6 +59,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     LOG_MSG(QStringLiteral("window system: %1").arg(m_windowSystem->name()));
 
     buildWindow();
+    createModel();
     setupTray();
 
     m_terminationSignals = new TerminationSignals(this);
@@ -73,10 +80,14 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 MainWindow::~MainWindow()
 {
     stopThreads();
+    m_keyItemModel->flushPendingSave();
     if (m_settings)
         m_settings->sync();
+    UserQuestions::setHandler(nullptr);
     LOG_MSG(QStringLiteral("main window closed%1").arg(m_restartFlag ? QStringLiteral(", restarting") : QString()));
     ObjectRegistry::unregisterMainWindow();
+    for (ComponentId id : {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig})
+        ObjectRegistry::unregisterObject(id);
     if (m_restartFlag)
         startRestartedInstance();
 }
@@ -134,6 +145,64 @@ void MainWindow::buildWindow()
     frameLayout->addLayout(content, 1);
 
     setKeyPanelSize(DefaultKeyPanelSize);
+}
+
+void MainWindow::createModel()
+{
+    m_store = new Settings(this);
+    ObjectRegistry::registerObject(ComponentId::Settings, m_store);
+    if (!m_store->damagedCopyPath().isEmpty())
+        tellUser(tr("Your settings were damaged and have been reset."),
+                 tr("The damaged file was kept as %1.").arg(m_store->damagedCopyPath()));
+
+    m_layoutConfig = new ButtonLayoutConfig(this);
+    ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, m_layoutConfig);
+    m_keyItemModel = new KeyItemModel(this);
+    ObjectRegistry::registerObject(ComponentId::KeyItemModel, m_keyItemModel);
+    m_favorites = new FavoriteKeyItemModel(this);
+    UserQuestions::setHandler(&Dialog::ask);
+
+    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this,
+            [this](KeyLayout layout) { onButtonLayoutChanged(layout); });
+    connect(m_store, &Settings::settingImported, this, &MainWindow::onLayoutImported);
+    connect(m_store, &Settings::myFavoriteImported, this, &MainWindow::onFavoritesImported);
+
+    m_keyItemModel->reloadKeyItemsFromSettings();
+    m_favorites->reloadKeyItemsFromSettings();
+    m_layoutConfig->reloadLayout();
+}
+
+void MainWindow::onButtonLayoutChanged(int layout)
+{
+    m_keyItemModel->changeLayoutButtonView(KeyLayout(layout));
+    m_store->setValue(SettingsKeys::LastKbLayout, layout);
+    setKeyPanelSize(ButtonLayoutConfig::panelSize(layout));
+    LOG_MSG(QStringLiteral("layout: %1").arg(ButtonLayoutConfig::layoutName(layout)));
+}
+
+KeyItemModel* MainWindow::keyItemModel() const
+{
+    return m_keyItemModel;
+}
+
+FavoriteKeyItemModel* MainWindow::favorites() const
+{
+    return m_favorites;
+}
+
+ButtonLayoutConfig* MainWindow::layoutConfig() const
+{
+    return m_layoutConfig;
+}
+
+void MainWindow::tellUser(const QString& subject, const QString& text)
+{
+    UserQuestion message;
+    message.subject = subject;
+    message.text = text;
+    message.rightText = tr("OK");
+    message.defaultButton = Dialog::RightButton;
+    UserQuestions::ask(message);
 }
 
 void MainWindow::setupTray()
@@ -215,6 +284,39 @@ void MainWindow::openExtensionFile(const QString& path)
 {
     LOG_MSG(QStringLiteral("open extension file: %1").arg(path));
     bringWindowToFront();
+    m_importFileName = QFileInfo(path).fileName();
+    const Settings::ExportFile file = m_store->importFile(path);
+    if (!file.isValid())
+        tellUser(tr("%1 could not be imported.").arg(m_importFileName), file.error);
+    m_importFileName.clear();
+}
+
+void MainWindow::onLayoutImported(const QVariantMap& page)
+{
+    const int layout = m_keyItemModel->currentLayout();
+    int dropped = 0;
+    qDeleteAll(KeyItemModel::keyItemsFromMap(page, layout, &dropped));
+
+    UserQuestion confirm;
+    confirm.subject = tr("Replace the keys of this layout?");
+    confirm.text = tr("The keys of the current layout are replaced by those of %1. You can't undo this action.")
+                       .arg(m_importFileName);
+    if (dropped > 0)
+        confirm.text += QLatin1Char('\n') + tr("%n key(s) do not fit this layout and will be lost.", nullptr, dropped);
+    confirm.midText = tr("Cancel");
+    confirm.rightText = tr("Import");
+    if (UserQuestions::ask(confirm).buttonText != tr("Import")) {
+        LOG_MSG(QStringLiteral("layout import cancelled"));
+        return;
+    }
+    dropped = m_keyItemModel->replaceCurrentLayoutPages(page);
+    LOG_MSG(QStringLiteral("layout imported, %1 keys dropped").arg(dropped));
+}
+
+void MainWindow::onFavoritesImported(const QVariantMap& favorites)
+{
+    m_favorites->appendKeyItemFromImportedFile(favorites);
+    LOG_MSG(QStringLiteral("favorites imported, now %1").arg(m_favorites->count()));
 }
 
 void MainWindow::showAboutBox()
@@ -235,6 +337,7 @@ void MainWindow::quitApplication()
     m_quitting = true;
     LOG_MSG(QStringLiteral("quit requested"));
     stopThreads();
+    m_keyItemModel->flushPendingSave();
     if (m_settings)
         m_settings->sync();
     m_tray->setVisible(false);

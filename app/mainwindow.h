@@ -2,10 +2,15 @@
 
 #include "log.h"
 
+#include <QVariantMap>
 #include <QWidget>
 #include <memory>
 
+class ButtonLayoutConfig;
+class FavoriteKeyItemModel;
 class IPC_Thread;
+class KeyItemModel;
+class Settings;
 class QLabel;
 class QSettings;
 class QTranslator;
@@ -44,6 +49,9 @@ public:
     void setKeypadStatus(const QString& text);
 
     Log* log();
+    KeyItemModel* keyItemModel() const;
+    FavoriteKeyItemModel* favorites() const;
+    ButtonLayoutConfig* layoutConfig() const;
 
 signals:
     void appStateChange(bool isAppActive);
@@ -55,12 +63,17 @@ public slots:
     // Quits cleanly: threads stopped, settings written, then the event loop ends.
     void quitApplication();
     void restartApplication();
+    void onLayoutImported(const QVariantMap& page);
+    void onFavoritesImported(const QVariantMap& favorites);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildWindow();
+    void createModel();
+    void onButtonLayoutChanged(int layout);
+    void tellUser(const QString& subject, const QString& text);
     void setupTray();
     void hideToBackground();
     void toggleFromTray();
@@ -70,6 +83,11 @@ private:
     // First member: every other member and subsystem may log while it is built.
     Log m_log;
     QSettings* m_settings = nullptr;
+    Settings* m_store = nullptr;
+    ButtonLayoutConfig* m_layoutConfig = nullptr;
+    KeyItemModel* m_keyItemModel = nullptr;
+    FavoriteKeyItemModel* m_favorites = nullptr;
+    QString m_importFileName;
     std::unique_ptr<WindowSystem> m_windowSystem;
     TitleBar* m_titleBar = nullptr;
     QWidget* m_keyPanel = nullptr;

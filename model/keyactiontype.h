@@ -4,7 +4,8 @@
 #include <QString>
 
 // What a key does. Stored by name ("actionTypeString"), never by number.
-enum KeyActionType : qint32 {
+enum KeyActionType : qint32
+{
     KAT_INVALID = -1,
     KAT_FOLDER = 0,
     KAT_HOTKEY = 1,

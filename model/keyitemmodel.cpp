@@ -272,8 +272,7 @@ bool KeyItemModel::keyItemBecomeFolder(int keyIdx)
         return false;
     }
     KeyItem* item = keyItemAt(keyIdx);
-    if (!item || item->actionType == KAT_LINK_BUTTON || item->actionType < KAT_FOLDER ||
-        item->actionType >= KAT_NUM) {
+    if (!item || item->actionType == KAT_LINK_BUTTON || item->actionType < KAT_FOLDER || item->actionType >= KAT_NUM) {
         LOG_MSG(QStringLiteral("Param incorrect!"));
         return false;
     }
@@ -312,6 +311,14 @@ bool KeyItemModel::resetKeyItemToDefault(int keyIdx)
     }
     item->resetItem();
     return true;
+}
+
+void KeyItemModel::flushPendingSave()
+{
+    if (!m_saveTimer->isActive())
+        return;
+    m_saveTimer->stop();
+    saveCurrentKeyItemsToSettings();
 }
 
 void KeyItemModel::updateKeyitemState(const KeyItem* item)
@@ -419,8 +426,8 @@ QList<KeyItem*> KeyItemModel::keyItemsFromMap(const QVariantMap& page, int layou
         }
         auto* item = new KeyItem;
         value.toMap() >> *item;
-        const bool usable = item->actionType >= KAT_FOLDER && item->actionType < KAT_LINK_BUTTON &&
-                            item->keyIdx >= 0 && item->keyIdx < keyCount && !taken.at(item->keyIdx);
+        const bool usable = item->actionType >= KAT_FOLDER && item->actionType < KAT_LINK_BUTTON && item->keyIdx >= 0 &&
+                            item->keyIdx < keyCount && !taken.at(item->keyIdx);
         if (!usable) {
             ++lost;
             delete item;
@@ -476,7 +483,8 @@ void KeyItemModel::reloadKeyItemsFromSettings()
             int dropped = 0;
             replaceRootList(layout, keyItemsFromMap(stored.toMap(), layout, &dropped));
             if (dropped > 0)
-                LOG_MSG(QStringLiteral("Err: %1 saved keys of %2 did not fit and were dropped!!").arg(dropped).arg(key));
+                LOG_MSG(
+                    QStringLiteral("Err: %1 saved keys of %2 did not fit and were dropped!!").arg(dropped).arg(key));
         } else {
             LOG_MSG(QStringLiteral("Err: Can't find %1").arg(key));
             replaceRootList(layout, defaultKeyItems(layout));

@@ -215,6 +215,16 @@ void Dialog::setNextAnswer(const QString& buttonText, bool checked)
     queuedAnswers().enqueue({buttonText, checked});
 }
 
+UserAnswer Dialog::ask(const UserQuestion& question)
+{
+    Dialog dialog(qobject_cast<QWidget*>(ObjectRegistry::find(ComponentId::MainWindow)));
+    dialog.setTitle(question.title);
+    dialog.setupDialog(question.subject, question.text, question.leftText, question.midText, question.rightText,
+                       question.checkBoxText, question.iconKind, question.defaultButton);
+    dialog.exec();
+    return {dialog.answer(), dialog.isChecked()};
+}
+
 void Dialog::clearNextAnswers()
 {
     QMutexLocker locker(&answersMutex);

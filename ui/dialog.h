@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QString>
 
+#include "userquestion.h"
+
 class ClickLabel;
 class QCheckBox;
 class QEvent;
@@ -48,6 +50,9 @@ public:
     // For tests and non-interactive runs: the next exec() of any Dialog does
     // not show itself and answers as given. Answers queue up in order.
     static void setNextAnswer(const QString& buttonText, bool checked = false);
+    // Shows a question of the model as a modal dialog; the main window
+    // installs this as the model's question handler.
+    static UserAnswer ask(const UserQuestion& question);
     static void clearNextAnswers();
 
     QPushButton* buttonAt(int index) const;

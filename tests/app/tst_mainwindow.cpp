@@ -1,4 +1,8 @@
 #include "dialog.h"
+#include "ka_paststring.h"
+#include "keyitem.h"
+#include "keyitemmodel.h"
+#include "settings.h"
 #include "ipc_thread.h"
 #include "mainwindow.h"
 #include "objectregistry.h"
@@ -132,6 +136,53 @@ private slots:
         QCOMPARE(MainWindow::translationFile(index), file);
         QTranslator translator;
         MainWindow::installTranslator(&translator, index); // missing files fail quietly
+    }
+
+    void shouldImportALayoutFileByItsContentAfterConfirmation()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        KeyItemModel* model = window.keyItemModel();
+        model->beginUpdate();
+        QVERIFY(model->createKeyAction(9, KAT_PASTE_STRING));
+        static_cast<KA_PastString*>(model->keyItemAt(9)->action[0])->strText = QStringLiteral("exported");
+        model->endUpdate(true);
+        model->saveCurrentKeyItemsToSettings();
+        QTemporaryDir dir;
+        const QString path = dir.path() + QStringLiteral("/my.kslayout");
+        QVERIFY(COMPONENT(Settings, ComponentId::Settings)->exportSetting(path));
+
+        model->beginUpdate();
+        QVERIFY(model->deleteKeyItem(9));
+        model->endUpdate(true);
+
+        Dialog::setNextAnswer(QStringLiteral("Cancel"));
+        window.openExtensionFile(path);
+        QCOMPARE(model->keyItemAt(9), nullptr);
+
+        Dialog::setNextAnswer(QStringLiteral("Import"));
+        window.openExtensionFile(path);
+        QVERIFY(model->keyItemAt(9));
+        QCOMPARE(static_cast<KA_PastString*>(model->keyItemAt(9)->action[0])->strText, QStringLiteral("exported"));
+    }
+
+    void shouldTellWhenAFileCannotBeImported()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        QTemporaryDir dir;
+        const QString path = dir.path() + QStringLiteral("/garbage.kslayout");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("this is not a layout");
+        file.close();
+        Dialog::setNextAnswer(QStringLiteral("OK"));
+        window.openExtensionFile(path);
+        QFile log(window.log()->filePath());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(log.readAll());
+        QVERIFY(text.contains(QStringLiteral("answered without showing: \"OK\"")));
+        QVERIFY(text.contains(QStringLiteral("Import of ") + path + QStringLiteral(" failed")));
     }
 };
 

@@ -77,13 +77,27 @@ private slots:
         QTest::addColumn<QString>("image0");
         QTest::addColumn<QString>("image1");
         QTest::addColumn<QString>("className");
-        QTest::newRow("folder") << 0 << "btn_folder" << "btn_folder" << "KA_Folder";
-        QTest::newRow("hotkey") << 1 << "btn_hotkey" << "btn_toggle" << "KA_HotKey";
-        QTest::newRow("macro") << 2 << "btn_macro" << "btn_macro" << "KA_MarcoKey";
-        QTest::newRow("launch") << 3 << "btn_launch" << "btn_launch" << "KA_Execute";
-        QTest::newRow("website") << 4 << "btn_website" << "btn_website" << "KA_Execute";
-        QTest::newRow("text") << 5 << "btn_textstring" << "btn_textstring" << "KA_PastString";
-        QTest::newRow("link") << 6 << "btn_home" << "btn_home" << "KA_LinkButton";
+        QTest::newRow("folder") << 0 << "btn_folder"
+                                << "btn_folder"
+                                << "KA_Folder";
+        QTest::newRow("hotkey") << 1 << "btn_hotkey"
+                                << "btn_toggle"
+                                << "KA_HotKey";
+        QTest::newRow("macro") << 2 << "btn_macro"
+                               << "btn_macro"
+                               << "KA_MarcoKey";
+        QTest::newRow("launch") << 3 << "btn_launch"
+                                << "btn_launch"
+                                << "KA_Execute";
+        QTest::newRow("website") << 4 << "btn_website"
+                                 << "btn_website"
+                                 << "KA_Execute";
+        QTest::newRow("text") << 5 << "btn_textstring"
+                              << "btn_textstring"
+                              << "KA_PastString";
+        QTest::newRow("link") << 6 << "btn_home"
+                              << "btn_home"
+                              << "KA_LinkButton";
     }
 
     void shouldGiveEachTypeItsDefaultImagesAndActionClass()

@@ -237,8 +237,7 @@ private slots:
             child->parent = folder;
             folderPage->childList.prepend(child);
         }
-        QList<KeyItem*> page{new KeyItem(KAT_PASTE_STRING, 1, V_Key_32), folder,
-                             new KeyItem(KAT_HOTKEY, 30, V_Key_32)};
+        QList<KeyItem*> page{new KeyItem(KAT_PASTE_STRING, 1, V_Key_32), folder, new KeyItem(KAT_HOTKEY, 30, V_Key_32)};
         const QVariantMap map = pageToMap(page);
         qDeleteAll(page);
 

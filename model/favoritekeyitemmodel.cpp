@@ -1,0 +1,181 @@
+#include "favoritekeyitemmodel.h"
+
+#include "keyitem.h"
+#include "keyitemserialization.h"
+#include "logging.h"
+#include "objectregistry.h"
+#include "settings.h"
+#include "settingskeys.h"
+#include "userquestion.h"
+
+#include <QFileInfo>
+
+namespace {
+
+// A copy through the stored form keeps the item's own layout, which
+// assignment would replace by the one in force.
+KeyItem* copyKeepingLayout(const QVariantMap& map)
+{
+    auto* item = new KeyItem;
+    map >> *item;
+    item->parent = nullptr;
+    item->ownerList = nullptr;
+    return item;
+}
+
+} // namespace
+
+FavoriteKeyItemModel::FavoriteKeyItemModel(QObject* parent) : QObject(parent) {}
+
+FavoriteKeyItemModel::~FavoriteKeyItemModel()
+{
+    clearItems();
+}
+
+void FavoriteKeyItemModel::clearItems()
+{
+    qDeleteAll(m_items);
+    m_items.clear();
+}
+
+const QList<KeyItem*>& FavoriteKeyItemModel::keyItems() const
+{
+    return m_items;
+}
+
+int FavoriteKeyItemModel::count() const
+{
+    return m_items.size();
+}
+
+bool FavoriteKeyItemModel::appendKeyItem(const KeyItem* item)
+{
+    if (!logMsgWhenRetFail(item != nullptr, QStringLiteral("keyItem is nullptr!!")))
+        return false;
+    if (m_items.size() >= MaxItems)
+        return false;
+    QVariantMap map;
+    map << *item;
+    m_items.append(copyKeepingLayout(map));
+    emit updateContent();
+    saveKeyItemsToSettings();
+    return true;
+}
+
+void FavoriteKeyItemModel::removeKeyItem(int index)
+{
+    if (index < 0 || index >= m_items.size())
+        return;
+    delete m_items.takeAt(index);
+    emit updateContent();
+    saveKeyItemsToSettings();
+}
+
+void FavoriteKeyItemModel::removeAll()
+{
+    clearItems();
+    emit updateContent();
+    saveKeyItemsToSettings();
+}
+
+QVariantMap FavoriteKeyItemModel::toMap() const
+{
+    return pageToMap(m_items);
+}
+
+Settings* FavoriteKeyItemModel::settings() const
+{
+    return COMPONENT(Settings, ComponentId::Settings);
+}
+
+void FavoriteKeyItemModel::saveKeyItemsToSettings()
+{
+    if (Settings* store = settings()) {
+        store->setValue(SettingsKeys::MyFavoriteItems, toMap());
+        syncFile();
+    }
+}
+
+void FavoriteKeyItemModel::syncFile()
+{
+    if (Settings* store = settings())
+        store->save();
+}
+
+void FavoriteKeyItemModel::reloadKeyItemsFromSettings()
+{
+    clearItems();
+    Settings* store = settings();
+    const QVariant stored = store ? store->value(SettingsKeys::MyFavoriteItems) : QVariant();
+    const QVariantMap map = stored.userType() == QMetaType::QVariantMap ? stored.toMap() : QVariantMap();
+    const int count = Settings::boundedCount(map, SettingsKeys::KeyCnt, map.size());
+    for (int i = 0; i < count && m_items.size() < MaxItems; ++i) {
+        const QVariant value = map.value(QString(SettingsKeys::KeyMapPattern).arg(i));
+        if (value.userType() != QMetaType::QVariantMap || value.toMap().isEmpty()) {
+            LOG_MSG(QStringLiteral("Err: Can't find keyMap_%1").arg(i));
+            continue;
+        }
+        m_items.append(copyKeepingLayout(value.toMap()));
+    }
+    emit updateContent();
+}
+
+void FavoriteKeyItemModel::appendKeyItemFromImportedFile(const QVariantMap& keyItemMaps)
+{
+    if (keyItemMaps.isEmpty())
+        return;
+    const QVariant countValue = keyItemMaps.value(SettingsKeys::KeyCnt, -1);
+    bool ok = false;
+    const int keyCnt = countValue.toInt(&ok);
+    if (!ok || keyCnt == -1) {
+        LOG_MSG(QStringLiteral("Err: Can't find saved key!"));
+        return;
+    }
+    const int current = m_items.size();
+    const QString source = m_importFileName.isEmpty() ? QString::number(keyCnt) : m_importFileName;
+    if (current >= MaxItems) {
+        UserQuestion full;
+        full.subject = tr("You have reached the limit of \"My Favorite\".");
+        full.text = tr("Import %1 fails.").arg(source);
+        full.midText = tr("Cancel");
+        UserQuestions::ask(full);
+        return;
+    }
+    if (current + keyCnt > MaxItems) {
+        UserQuestion over;
+        over.subject = tr("The limit of \"My Favorite\" is %1 items.").arg(MaxItems);
+        over.text = tr("You already have %1 item in \"My Favorite.\" If continues, %2 item will be lost. Are you sure "
+                       "you want to proceed?")
+                        .arg(current)
+                        .arg(current + keyCnt - MaxItems);
+        over.midText = tr("Cancel");
+        over.rightText = tr("Continue");
+        if (UserQuestions::ask(over).buttonText != tr("Continue"))
+            return;
+    }
+    // The first keys of the file are kept; the count is trusted no further
+    // than the entries the map holds.
+    const int entries = qMin(keyCnt, keyItemMaps.size());
+    for (int i = 0; i < entries && m_items.size() < MaxItems; ++i) {
+        const QVariant value = keyItemMaps.value(QString(SettingsKeys::KeyMapPattern).arg(i));
+        if (value.userType() != QMetaType::QVariantMap || value.toMap().isEmpty()) {
+            LOG_MSG(QStringLiteral("Err: Can't find keyMap_%1").arg(i));
+            continue;
+        }
+        m_items.append(copyKeepingLayout(value.toMap()));
+    }
+    emit updateContent();
+    saveKeyItemsToSettings();
+}
+
+void FavoriteKeyItemModel::importFile(const QString& fileName)
+{
+    const Settings::ExportFile file = Settings::readExportFile(fileName);
+    if (file.kind != Settings::ExportKind::Favorite) {
+        LOG_MSG(QStringLiteral("Err: %1 is no favourites file: %2").arg(fileName, file.detail));
+        return;
+    }
+    m_importFileName = QFileInfo(fileName).fileName();
+    appendKeyItemFromImportedFile(file.content);
+    m_importFileName.clear();
+}

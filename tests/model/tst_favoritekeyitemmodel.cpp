@@ -1,0 +1,167 @@
+#include "buttonlayoutconfig.h"
+#include "favoritekeyitemmodel.h"
+#include "ka_paststring.h"
+#include "keyitem.h"
+#include "keyitemserialization.h"
+#include "logcapture.h"
+#include "objectregistry.h"
+#include "settings.h"
+#include "settingskeys.h"
+#include "testmain.h"
+#include "userquestion.h"
+
+namespace {
+
+KeyItem* textKey(const QString& text, int layout = V_Key_15)
+{
+    auto* item = new KeyItem(KAT_PASTE_STRING, 0, layout);
+    static_cast<KA_PastString*>(item->action[0])->strText = text;
+    return item;
+}
+
+QString textOf(const KeyItem* item)
+{
+    return static_cast<KA_PastString*>(item->action[0])->strText;
+}
+
+QVariantMap fileOf(int count, const QString& prefix)
+{
+    QList<KeyItem*> items;
+    for (int i = 0; i < count; ++i)
+        items << textKey(prefix + QString::number(i));
+    const QVariantMap map = pageToMap(items);
+    qDeleteAll(items);
+    return map;
+}
+
+} // namespace
+
+class FavoriteKeyItemModelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QFile::remove(Settings().fileName());
+        m_settings = std::make_unique<Settings>();
+        ObjectRegistry::registerObject(ComponentId::Settings, m_settings.get());
+        m_questions.clear();
+        UserQuestions::setHandler([this](const UserQuestion& question) {
+            m_questions << question;
+            return UserAnswer{m_answer, false};
+        });
+    }
+
+    void cleanup()
+    {
+        UserQuestions::setHandler(nullptr);
+        ObjectRegistry::clear();
+        m_settings.reset();
+    }
+
+    void shouldAskBeforeLosingItemsOverTheLimit()
+    {
+        FavoriteKeyItemModel model;
+        model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
+        QCOMPARE(model.count(), 58);
+        QVERIFY(m_questions.isEmpty());
+
+        m_answer = QStringLiteral("Continue");
+        model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
+        QCOMPARE(m_questions.size(), 1);
+        QCOMPARE(m_questions.first().subject, QStringLiteral("The limit of \"My Favorite\" is 60 items."));
+        QCOMPARE(m_questions.first().text,
+                 QStringLiteral("You already have 58 item in \"My Favorite.\" If continues, 3 "
+                                "item will be lost. Are you sure you want to proceed?"));
+        QCOMPARE(m_questions.first().midText, QStringLiteral("Cancel"));
+        QCOMPARE(m_questions.first().rightText, QStringLiteral("Continue"));
+        QCOMPARE(model.count(), 60);
+        QCOMPARE(textOf(model.keyItems().at(58)), QStringLiteral("new0"));
+        QCOMPARE(textOf(model.keyItems().at(59)), QStringLiteral("new1"));
+    }
+
+    void shouldChangeNothingUnlessContinued()
+    {
+        FavoriteKeyItemModel model;
+        model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
+        m_answer = QString(); // closed by the title bar
+        model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
+        QCOMPARE(model.count(), 58);
+    }
+
+    void shouldRefuseAnyImportWhenFull()
+    {
+        FavoriteKeyItemModel model;
+        model.appendKeyItemFromImportedFile(fileOf(60, QStringLiteral("old")));
+        m_answer = QStringLiteral("Continue");
+        model.appendKeyItemFromImportedFile(fileOf(1, QStringLiteral("new")));
+        QCOMPARE(m_questions.size(), 1);
+        QCOMPARE(m_questions.first().subject, QStringLiteral("You have reached the limit of \"My Favorite\"."));
+        QVERIFY(m_questions.first().text.startsWith(QStringLiteral("Import ")));
+        QCOMPARE(model.count(), 60);
+        KeyItem extra(KAT_HOTKEY, 0, V_Key_15);
+        QVERIFY(!model.appendKeyItem(&extra));
+    }
+
+    void shouldIgnoreAFileWithoutKeyCount()
+    {
+        FavoriteKeyItemModel model;
+        LogCapture capture;
+        QVariantMap map = fileOf(2, QStringLiteral("x"));
+        map.remove(SettingsKeys::KeyCnt);
+        model.appendKeyItemFromImportedFile(map);
+        QCOMPARE(model.count(), 0);
+        QCOMPARE(capture.matching(QStringLiteral("Err: Can't find saved key!")).size(), 1);
+    }
+
+    void shouldKeepEachItemsOwnLayoutAndSurviveARestart()
+    {
+        ButtonLayoutConfig layouts;
+        layouts.changeLayout(H_Key_6);
+        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
+        {
+            FavoriteKeyItemModel model;
+            std::unique_ptr<KeyItem> folder(new KeyItem(KAT_FOLDER, 7, V_Key_32));
+            QVERIFY(model.appendKeyItem(folder.get()));
+            std::unique_ptr<KeyItem> text(textKey(QStringLiteral("kept")));
+            QVERIFY(model.appendKeyItem(text.get()));
+            QCOMPARE(model.keyItems().first()->layout, int(V_Key_32));
+        }
+        Settings reopened;
+        QVERIFY(!reopened.loadedDefaults());
+        ObjectRegistry::registerObject(ComponentId::Settings, &reopened);
+        FavoriteKeyItemModel model;
+        model.reloadKeyItemsFromSettings();
+        QCOMPARE(model.count(), 2);
+        QCOMPARE(model.keyItems().first()->layout, int(V_Key_32));
+        QCOMPARE(textOf(model.keyItems().at(1)), QStringLiteral("kept"));
+        model.removeKeyItem(5);
+        model.removeKeyItem(0);
+        QCOMPARE(model.count(), 1);
+        ObjectRegistry::registerObject(ComponentId::Settings, m_settings.get());
+    }
+
+    void shouldImportAnExportedFavouritesFile()
+    {
+        FavoriteKeyItemModel source;
+        std::unique_ptr<KeyItem> text(textKey(QStringLiteral("shared")));
+        QVERIFY(source.appendKeyItem(text.get()));
+        QTemporaryDir dir;
+        const QString path = dir.path() + QStringLiteral("/mine.ksfavorites");
+        QVERIFY(m_settings->exportMyFavorite(path));
+
+        source.removeAll();
+        source.importFile(path);
+        QCOMPARE(source.count(), 1);
+        QCOMPARE(textOf(source.keyItems().first()), QStringLiteral("shared"));
+    }
+
+private:
+    std::unique_ptr<Settings> m_settings;
+    QList<UserQuestion> m_questions;
+    QString m_answer;
+};
+
+KEYSTAGE_TEST_MAIN(FavoriteKeyItemModelTest)
+#include "tst_favoritekeyitemmodel.moc"
