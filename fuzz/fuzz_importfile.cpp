@@ -24,6 +24,13 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 } // namespace
 
+// Read by LeakSanitizer at exit: fontconfig, loaded with the fonts of the GUI
+// application, keeps allocations for the life of the process on purpose.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libfontconfig\n";
+}
+
 extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
     // Images inside the files are read as QPixmaps, which need a GUI
