@@ -1,11 +1,11 @@
 #include "dialog.h"
+#include "ipc_thread.h"
 #include "ka_paststring.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
-#include "settings.h"
-#include "ipc_thread.h"
 #include "mainwindow.h"
 #include "objectregistry.h"
+#include "settings.h"
 #include "testmain.h"
 
 #include <QSettings>
