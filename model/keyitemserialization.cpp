@@ -9,6 +9,7 @@
 #include "keyactionabstr.h"
 #include "keyitem.h"
 #include "logging.h"
+#include "settings.h"
 
 namespace {
 
@@ -83,7 +84,7 @@ QVariantMap readMap(const QVariantMap& map, const QString& key)
 // A stored count, trusted no further than the entries the map can hold.
 int readCount(const QVariantMap& map, const QString& key)
 {
-    return qBound(0, readInt(map, key, 0), map.size());
+    return Settings::boundedCount(map, key, map.size());
 }
 
 void writeAction(QVariantMap& map, const KeyItem& item, int slot)
