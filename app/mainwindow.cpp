@@ -149,6 +149,7 @@ void MainWindow::buildWindow()
 
 void MainWindow::createModel()
 {
+    UserQuestions::setHandler(&Dialog::ask);
     m_store = new Settings(this);
     ObjectRegistry::registerObject(ComponentId::Settings, m_store);
     if (!m_store->damagedCopyPath().isEmpty())
@@ -160,7 +161,6 @@ void MainWindow::createModel()
     m_keyItemModel = new KeyItemModel(this);
     ObjectRegistry::registerObject(ComponentId::KeyItemModel, m_keyItemModel);
     m_favorites = new FavoriteKeyItemModel(this);
-    UserQuestions::setHandler(&Dialog::ask);
 
     connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this,
             [this](KeyLayout layout) { onButtonLayoutChanged(layout); });

@@ -5,6 +5,7 @@
 #include "mainwindow.h"
 #include "metatypes.h"
 #include "myapplication.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QFile>
@@ -73,6 +74,8 @@ int Startup::run(int& argc, char** argv)
     if (flags[QuitAtOnce])
         return -1;
 
+    // Before the first read of the settings file: a damaged one must not abort us.
+    Settings::setAsideUnreadableStore();
     QSettings settings;
     const int langIdx = checkedLanguageIndex(settings.value(QStringLiteral("lang_idx"), -1).toInt());
     QTranslator translator;

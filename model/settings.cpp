@@ -14,8 +14,10 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QTemporaryFile>
 
+#include <exception>
 #include <utility>
 
 namespace {
@@ -424,9 +426,56 @@ QByteArray readWholeFile(const QString& path, bool* ok)
 
 } // namespace
 
+namespace {
+// Where setAsideUnreadableStore() kept a file no QSettings could read.
+QString setAsidePath;
+
+bool snapshotIsReadable(const QString& path)
+{
+    bool readable = false;
+    const QByteArray bytes = readWholeFile(path, &readable);
+    if (!readable)
+        return true; // nothing QSettings could trip over either
+    QTemporaryFile snapshot(path + QStringLiteral(".check-XXXXXX"));
+    if (!snapshot.open() || snapshot.write(bytes) != bytes.size() || !snapshot.flush())
+        return true;
+    snapshot.close();
+    try {
+        QSettings stored(snapshot.fileName(), QSettings::IniFormat);
+        const QStringList keys = stored.allKeys();
+        for (const QString& key : keys)
+            stored.value(key);
+    } catch (const std::exception&) {
+        return false;
+    }
+    return true;
+}
+} // namespace
+
+QString Settings::setAsideUnreadableStore()
+{
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         QStringLiteral("/%1/%2.conf").arg(Organisation, Application);
+    if (!QFileInfo::exists(path) || snapshotIsReadable(path))
+        return QString();
+    const QString target =
+        path + QStringLiteral(".corrupt-") + QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_hhmmss"));
+    QString kept = target;
+    for (int n = 2; QFileInfo::exists(kept); ++n)
+        kept = target + QLatin1Char('-') + QString::number(n);
+    if (!QFile::rename(path, kept)) {
+        LOG_MSG(QStringLiteral("ERROR: %1 cannot be read and cannot be moved aside!!").arg(path));
+        return QString();
+    }
+    LOG_MSG(QStringLiteral("ERROR: %1 cannot be read, kept as %2!!").arg(path, kept));
+    setAsidePath = kept;
+    return kept;
+}
+
 Settings::Settings(QObject* parent)
     : QObject(parent), m_store(QSettings::NativeFormat, QSettings::UserScope, Organisation, Application)
 {
+    m_damagedCopyPath = std::exchange(setAsidePath, QString());
     QVariantMap stored = m_store.value(SettingsKeys::Inst).toMap();
     const QString storedChecksum = stored.take(SettingsKeys::ChecksumTag).toString();
     if (!storedChecksum.isEmpty() && storedChecksum == checksum(stored)) {

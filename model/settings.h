@@ -73,6 +73,14 @@ public:
         bool isValid() const { return kind != ExportKind::Invalid; }
     };
 
+    // QSettings parses the stored values with QDataStream on the first read,
+    // and a forged count in a damaged file makes Qt throw std::bad_alloc from
+    // inside that parse. Call this before anything reads the settings file:
+    // it tries the file on a private snapshot and moves an unreadable one
+    // aside, so the program starts with defaults instead of aborting.
+    // Returns where the file was kept, empty when it was fine.
+    static QString setAsideUnreadableStore();
+
     explicit Settings(QObject* parent = nullptr);
     ~Settings() override;
 

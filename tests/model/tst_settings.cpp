@@ -755,6 +755,28 @@ private slots:
 
 private:
     std::unique_ptr<QTemporaryDir> m_files;
+
+    void shouldSetAsideAFileThatQSettingsCannotParse()
+    {
+        // A list whose count claims two billion entries: Qt's own parse of
+        // the file throws std::bad_alloc.
+        const QByteArray forged = "[General]\ninst=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61"
+                                  "\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0\\0\\0\\0\\x2\\0\\0\\0\\x1)\nlang_idx=2\n";
+        const QString path = Settings().fileName();
+        QVERIFY(writeFile(path, forged));
+
+        const QString kept = Settings::setAsideUnreadableStore();
+        QVERIFY(!kept.isEmpty());
+        QVERIFY(!QFile::exists(path));
+        QFile copy(kept);
+        QVERIFY(copy.open(QIODevice::ReadOnly));
+        QCOMPARE(copy.readAll(), forged);
+
+        Settings settings;
+        QVERIFY(settings.loadedDefaults());
+        QCOMPARE(settings.damagedCopyPath(), kept);
+        QVERIFY(Settings::setAsideUnreadableStore().isEmpty());
+    }
 };
 
 KEYSTAGE_TEST_MAIN(SettingsTest)
