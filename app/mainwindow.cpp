@@ -5,6 +5,7 @@
 #include "dialog.h"
 #include "favoritekeyitemmodel.h"
 #include "ipc_thread.h"
+#include "keyitem.h"
 #include "keyitemmodel.h"
 #include "logging.h"
 #include "objectregistry.h"
@@ -295,7 +296,7 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
 {
     const int layout = m_keyItemModel->currentLayout();
     int dropped = 0;
-    qDeleteAll(KeyItemModel::keyItemsFromMap(page, layout, &dropped));
+    const QList<KeyItem*> items = KeyItemModel::keyItemsFromMap(page, layout, &dropped);
 
     UserQuestion confirm;
     confirm.subject = tr("Replace the keys of this layout?");
@@ -306,10 +307,11 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
     confirm.midText = tr("Cancel");
     confirm.rightText = tr("Import");
     if (UserQuestions::ask(confirm).buttonText != tr("Import")) {
+        qDeleteAll(items);
         LOG_MSG(QStringLiteral("layout import cancelled"));
         return;
     }
-    dropped = m_keyItemModel->replaceCurrentLayoutPages(page);
+    m_keyItemModel->replaceCurrentLayoutItems(items);
     LOG_MSG(QStringLiteral("layout imported, %1 keys dropped").arg(dropped));
 }
 

@@ -459,12 +459,16 @@ void KeyItemModel::replaceRootList(int layout, QList<KeyItem*> items)
 int KeyItemModel::replaceCurrentLayoutPages(const QVariantMap& page)
 {
     int dropped = 0;
-    QList<KeyItem*> items = keyItemsFromMap(page, m_layout, &dropped);
+    replaceCurrentLayoutItems(keyItemsFromMap(page, m_layout, &dropped));
+    return dropped;
+}
+
+void KeyItemModel::replaceCurrentLayoutItems(const QList<KeyItem*>& items)
+{
     beginUpdate();
     replaceRootList(m_layout, items);
     changeListToRoot();
     endUpdate(true);
-    return dropped;
 }
 
 Settings* KeyItemModel::settings() const

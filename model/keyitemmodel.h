@@ -73,6 +73,8 @@ public:
     static QList<KeyItem*> keyItemsFromMap(const QVariantMap& page, int layout, int* dropped = nullptr);
     // Replaces the current layout's pages by imported ones.
     int replaceCurrentLayoutPages(const QVariantMap& page);
+    // The same with items already read by keyItemsFromMap; takes them over.
+    void replaceCurrentLayoutItems(const QList<KeyItem*>& items);
 
 signals:
     void updateContentBefore(const KeyItem* keyItem);

@@ -494,34 +494,30 @@ private slots:
         QVERIFY(Settings::readExportFile(path).isValid());
     }
 
-    void shouldEmitTheImportedLayout()
+    void shouldEmitTheImportedContentByKind_data()
     {
-        Settings settings;
-        QSignalSpy layouts(&settings, &Settings::settingImported);
-        QSignalSpy favourites(&settings, &Settings::myFavoriteImported);
-        const QVariantMap pages{{SettingsKeys::KeyCnt, 0}};
-        const QString path = m_files->filePath(QStringLiteral("layout.bin"));
-        QVERIFY(writeFile(path, Settings::encodeExportFile(SettingsKeys::MyLayout, pages)));
-
-        QCOMPARE(settings.importFile(path).kind, Settings::ExportKind::Layout);
-        QCOMPARE(layouts.size(), 1);
-        QCOMPARE(layouts.first().first().toMap(), pages);
-        QCOMPARE(favourites.size(), 0);
+        QTest::addColumn<QString>("contentKey");
+        QTest::addColumn<int>("kind");
+        QTest::newRow("layout") << QString(SettingsKeys::MyLayout) << int(Settings::ExportKind::Layout);
+        QTest::newRow("favourites") << QString(SettingsKeys::MyFavorite) << int(Settings::ExportKind::Favorite);
     }
 
-    void shouldEmitTheImportedFavourites()
+    void shouldEmitTheImportedContentByKind()
     {
+        QFETCH(QString, contentKey);
+        QFETCH(int, kind);
         Settings settings;
         QSignalSpy layouts(&settings, &Settings::settingImported);
         QSignalSpy favourites(&settings, &Settings::myFavoriteImported);
-        const QVariantMap items{{SettingsKeys::KeyCnt, 3}};
-        const QString path = m_files->filePath(QStringLiteral("favourites.bin"));
-        QVERIFY(writeFile(path, Settings::encodeExportFile(SettingsKeys::MyFavorite, items)));
+        const QVariantMap content{{SettingsKeys::KeyCnt, 3}};
+        const QString path = m_files->filePath(QStringLiteral("import.bin"));
+        QVERIFY(writeFile(path, Settings::encodeExportFile(contentKey, content)));
 
-        QCOMPARE(settings.importFile(path).kind, Settings::ExportKind::Favorite);
-        QCOMPARE(favourites.size(), 1);
-        QCOMPARE(favourites.first().first().toMap(), items);
-        QCOMPARE(layouts.size(), 0);
+        QCOMPARE(int(settings.importFile(path).kind), kind);
+        QSignalSpy& emitted = kind == int(Settings::ExportKind::Layout) ? layouts : favourites;
+        QCOMPARE(layouts.size() + favourites.size(), 1);
+        QCOMPARE(emitted.size(), 1);
+        QCOMPARE(emitted.first().first().toMap(), content);
     }
 
     void shouldEmitNothingForABadFile()
