@@ -1,0 +1,531 @@
+#include "hid_comm.h"
+
+#include "keyfacerenderer.h"
+#include "keyitem.h"
+#include "logging.h"
+#include "vendordevicelibrary.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageWriter>
+#include <QPainter>
+#include <QTransform>
+
+namespace {
+
+constexpr uint32_t VendorId = 0xFFFF;
+// The order in which keypads are looked for at start.
+constexpr uint32_t SupportedProductIds[] = {0x1F43, 0x1F42, 0x1F41, 0x1F40, 0x1F45, 0x1F44, 0x110E};
+constexpr int KeyCounts[] = {6, 6, 15, 15, 32, 32};
+constexpr int PollTimeoutMs = 100;
+constexpr int IdlePollMs = 1000;
+constexpr int EffectIconSize = 50;
+
+// Grid position -> key number in the image reports, per layout. The first
+// table runs to 15 entries; only the layout's key count of each is used.
+constexpr int DeviceKeyNumbers[6][32] = {
+    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
+    {4, 1, 5, 2, 6, 3},
+    {5, 4, 3, 2, 1, 10, 9, 8, 7, 6, 15, 14, 13, 12, 11},
+    {1, 6, 11, 2, 7, 12, 3, 8, 13, 4, 9, 14, 5, 10, 15},
+    {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
+     17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32},
+    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,
+     16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31},
+};
+
+std::atomic<bool> vendorLibraryInUse{false};
+
+bool isValidLayout(int layout)
+{
+    return layout >= 0 && layout <= 5;
+}
+
+bool usesSmallPackets(int layout)
+{
+    return layout == H_Key_6 || layout == V_Key_6;
+}
+
+QImage blackKey()
+{
+    QImage image(Hid_Comm::KeyImageSize, Hid_Comm::KeyImageSize, QImage::Format_RGBA8888);
+    image.fill(Qt::black);
+    return image;
+}
+
+QImage composeKeyImage(const QImage& icon, bool effectIcon)
+{
+    const QSize keySize(Hid_Comm::KeyImageSize, Hid_Comm::KeyImageSize);
+    if (!effectIcon) {
+        if (icon.isNull())
+            return blackKey();
+        QImage scaled = icon.size() == keySize ? icon : icon.scaled(keySize, Qt::IgnoreAspectRatio,
+                                                                    Qt::SmoothTransformation);
+        return scaled.convertToFormat(QImage::Format_RGBA8888);
+    }
+    QImage image = blackKey();
+    if (icon.isNull())
+        return image;
+    const QImage fitted =
+        icon.scaled(EffectIconSize, EffectIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+    painter.drawImage((keySize.width() - fitted.width()) / 2, (keySize.height() - fitted.height()) / 2, fitted);
+    return image;
+}
+
+} // namespace
+
+Hid_Comm::Hid_Comm(QObject* parent) : QThread(parent)
+{
+    setObjectName(QStringLiteral("Comm"));
+    workBuffer.reserve(32768);
+    start(QThread::HighPriority);
+}
+
+Hid_Comm::~Hid_Comm()
+{
+    onOS_suspend();
+    QMutexLocker gate(&readGate);
+    QMutexLocker locker(&deviceMutex);
+    if (opened.load())
+        closeDevice();
+}
+
+void Hid_Comm::setPaused(bool value)
+{
+    paused.store(value);
+}
+
+bool Hid_Comm::usesVendorLibrary()
+{
+    return vendorLibraryInUse.load();
+}
+
+int Hid_Comm::keyCount(int layoutValue)
+{
+    return isValidLayout(layoutValue) ? KeyCounts[layoutValue] : 0;
+}
+
+int Hid_Comm::deviceKeyNumber(int layoutValue, int position)
+{
+    if (position < 0 || position >= keyCount(layoutValue))
+        return -1;
+    return DeviceKeyNumbers[layoutValue][position];
+}
+
+QImage Hid_Comm::orientForLayout(const QImage& image, int layoutValue)
+{
+    switch (layoutValue) {
+    case H_Key_6:
+        return image.transformed(QTransform().rotate(90));
+    case V_Key_6:
+        return image.mirrored(false, true);
+    case H_Key_15:
+    case H_Key_32:
+        return image.transformed(QTransform().rotate(180));
+    case V_Key_15:
+    case V_Key_32:
+        return image.transformed(QTransform().rotate(270));
+    default:
+        return image;
+    }
+}
+
+// ---- connection ---------------------------------------------------------
+
+void Hid_Comm::closeDevice()
+{
+    if (vendorLibraryInUse.load())
+        VendorDeviceLibrary::instance().closeDevice();
+    else
+        device.vT_DeviceClose();
+    vendorLibraryInUse.store(false);
+}
+
+bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
+{
+    QMutexLocker gate(&readGate);
+    QMutexLocker locker(&deviceMutex);
+    if (opened.load())
+        return false;
+    closeDevice();
+    emit KeyboardStatusChange(false);
+
+    const bool viaLibrary = pid == VendorDeviceLibrary::ProductId;
+    const int result = viaLibrary ? VendorDeviceLibrary::instance().openDevice(uint16_t(vid & 0xFFFF), uint16_t(pid))
+                                  : device.vT_DeviceOpen(vid, pid);
+    if (result != 0) {
+        LOG_MSG(QStringLiteral("Error: Device not found. vid: %1, pid:%2 !").arg(vid).arg(pid));
+        return false;
+    }
+    vendorLibraryInUse.store(viaLibrary);
+    opened.store(true);
+    heldKey = -1;
+    pressReported = false;
+    LOG_MSG(QStringLiteral("Device opened. vid: 0x%1, pid: 0x%2%3")
+                .arg(vid, 4, 16, QLatin1Char('0'))
+                .arg(pid, 4, 16, QLatin1Char('0'))
+                .arg(viaLibrary ? QStringLiteral(" (maker's library)") : QString()));
+    emit KeyboardStatusChange(true);
+    return true;
+}
+
+void Hid_Comm::openFirstSupportedKeyboard()
+{
+    for (uint32_t pid : SupportedProductIds) {
+        if (openSDKeyboard(VendorId, pid))
+            return;
+    }
+}
+
+void Hid_Comm::onKeyboardWasAdded(uint32_t vid, uint32_t pid)
+{
+    openSDKeyboard(vid, pid);
+}
+
+// A removed keypad shows itself through the failing read in the polling
+// loop, which closes it; nothing to do here.
+void Hid_Comm::onKeyboardWasRemoved()
+{
+}
+
+void Hid_Comm::onButtonLayoutChanged(KeyLayout keylayout)
+{
+    layout.store(int(keylayout));
+}
+
+void Hid_Comm::onOS_suspend()
+{
+    stopFlag.store(true);
+    {
+        QMutexLocker locker(&idleMutex);
+        idleWake.wakeAll();
+    }
+    wait();
+}
+
+// The flag is cleared here rather than in run(): a stop that arrives before
+// the new thread gets going must not be undone.
+void Hid_Comm::onOS_resumes()
+{
+    if (isRunning())
+        return;
+    stopFlag.store(false);
+    start();
+}
+
+// ---- polling loop ---------------------------------------------------------
+
+void Hid_Comm::run()
+{
+    LOG_MSG(QStringLiteral("running."));
+    if (!opened.load())
+        openFirstSupportedKeyboard();
+    while (!stopFlag.load()) {
+        if (!opened.load()) {
+            idleWait(IdlePollMs);
+            continue;
+        }
+        if (vendorLibraryInUse.load())
+            pollVendorLibrary();
+        else
+            pollOwnProtocol();
+    }
+    LOG_MSG(QStringLiteral("exit!"));
+}
+
+void Hid_Comm::idleWait(int milliseconds)
+{
+    QMutexLocker locker(&idleMutex);
+    if (!stopFlag.load())
+        idleWake.wait(&idleMutex, milliseconds);
+}
+
+void Hid_Comm::deviceLost()
+{
+    LOG_MSG(QStringLiteral("Unable to read keyboard."));
+    {
+        QMutexLocker locker(&deviceMutex);
+        closeDevice();
+        opened.store(false);
+    }
+    emit KeyboardStatusChange(false);
+}
+
+void Hid_Comm::pollOwnProtocol()
+{
+    KEYBUTTON_DATA keys;
+    int result;
+    {
+        QMutexLocker gate(&readGate);
+        if (!opened.load() || vendorLibraryInUse.load())
+            return;
+        result = device.vT_ReadKeyButtonTimeout(&keys, PollTimeoutMs);
+    }
+    switch (result) {
+    case Err_Timeout:
+        return;
+    case Err_Success:
+        break;
+    case Err_ParamInvalid:
+        LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
+        return;
+    default:
+        // A read error, or a handle that vanished under us: either way the
+        // keypad is gone until it arrives again.
+        deviceLost();
+        return;
+    }
+    if (paused.load()) {
+        heldKey = -1;
+        pressReported = false;
+        return;
+    }
+    handleKeyStates(keys);
+}
+
+// One key at a time: the lowest key down becomes the held key, chords and
+// repeats report nothing, and the release names the held key.
+void Hid_Comm::handleKeyStates(const KEYBUTTON_DATA& keys)
+{
+    const int layoutValue = layout.load();
+    if (!isValidLayout(layoutValue)) {
+        LOG_MSG(QStringLiteral("layoutType out of range!!!"));
+        return;
+    }
+    quint64 mask = 0;
+    for (int n = 0; n < KeyCounts[layoutValue]; ++n) {
+        if (keys.key[n])
+            mask |= quint64(1) << n;
+    }
+    if (heldKey < 0 && mask != 0) {
+        heldKey = qCountTrailingZeroBits(mask);
+        pressReported = false;
+    }
+    const int heldId = heldKey < 0 ? -1 : heldKey + 1;
+    if (mask == 0) {
+        LOG_MSG(QStringLiteral("emit keyRelease: %1").arg(heldId));
+        emit keyReleased(heldId);
+        heldKey = -1;
+        pressReported = false;
+        return;
+    }
+    const bool otherKeysDown = (mask & ~(quint64(1) << heldKey)) != 0;
+    if (otherKeysDown || pressReported) {
+        LOG_MSG(QStringLiteral("multipKeyPress"));
+        return;
+    }
+    LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(heldId));
+    pressReported = true;
+    emit keyPressed(heldId);
+}
+
+void Hid_Comm::pollVendorLibrary()
+{
+    uint8_t event[VendorDeviceLibrary::EventBufferSize] = {};
+    int result;
+    {
+        QMutexLocker gate(&readGate);
+        if (!opened.load() || !vendorLibraryInUse.load())
+            return;
+        result = VendorDeviceLibrary::instance().waitEvent(event, PollTimeoutMs);
+    }
+    if (result == VendorDeviceLibrary::EventNothing)
+        return;
+    if (result == VendorDeviceLibrary::EventReadFailure) {
+        deviceLost();
+        return;
+    }
+    if (result == VendorDeviceLibrary::EventParamInvalid) {
+        LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
+        return;
+    }
+    if (paused.load()) {
+        std::fill(std::begin(vendorKeyDown), std::end(vendorKeyDown), false);
+        return;
+    }
+    const int count = VendorDeviceLibrary::eventKeyCount(event);
+    bool pressSeen = false;
+    for (int key = 0; key < count; ++key) {
+        const bool down = VendorDeviceLibrary::eventKeyDown(event, key);
+        if (down && !pressSeen) {
+            pressSeen = true;
+            if (!vendorKeyDown[key]) {
+                vendorKeyDown[key] = true;
+                LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(key + 1));
+                emit keyPressed(key + 1);
+            }
+        } else if (!down && vendorKeyDown[key]) {
+            vendorKeyDown[key] = false;
+            LOG_MSG(QStringLiteral("emit keyRelease: %1").arg(key + 1));
+            emit keyReleased(key + 1);
+        }
+    }
+}
+
+// ---- key images -------------------------------------------------------------
+
+void Hid_Comm::onUpdateContent(const KeyItem* keyItem)
+{
+    if (!logMsgWhenRetFail(keyItem != nullptr, QStringLiteral("keyItem is nullptr!!")))
+        return;
+    if (!logMsgWhenRetFail(keyItem->keyIdx >= 0 && keyItem->keyIdx < MaxKeys,
+                           QStringLiteral("keyItem index out of range!!!")))
+        return;
+    const int layoutValue = layout.load();
+    if (!logMsgWhenRetFail(isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+        return;
+    const int deviceKey = deviceKeyNumber(layoutValue, keyItem->keyIdx);
+    if (deviceKey < 0) {
+        LOG_MSG(QStringLiteral("index out of range: %1").arg(keyItem->keyIdx));
+        return;
+    }
+    sendIcon(deviceKey, KeyFaceRenderer::render(keyItem), false);
+}
+
+bool Hid_Comm::sendIcon(int devKeyIdx, QPixmap icon, bool effectIcon)
+{
+    return sendIcon(devKeyIdx, icon.toImage(), effectIcon);
+}
+
+bool Hid_Comm::sendIcon(int devKeyIdx, const QImage& icon, bool effectIcon)
+{
+    if (!opened.load())
+        return false;
+    const int layoutValue = layout.load();
+    if (!logMsgWhenRetFail(isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+        return false;
+    if (devKeyIdx < 0 || devKeyIdx > keyCount(layoutValue)) {
+        LOG_MSG(QStringLiteral("index out of range: %1").arg(devKeyIdx));
+        return false;
+    }
+    const QImage image = orientForLayout(composeKeyImage(icon, effectIcon), layoutValue);
+    QMutexLocker locker(&deviceMutex);
+    if (layoutValue == H_Key_32)
+        QThread::msleep(1);
+    return writeKeyImage(layoutValue, devKeyIdx, image) != Err_Failure;
+}
+
+QByteArray Hid_Comm::encode(const QImage& image, const char* format, int quality)
+{
+    workBuffer.resize(0);
+    QBuffer buffer(&workBuffer);
+    buffer.open(QIODevice::WriteOnly);
+    // The keypad decodes 24-bit pictures; BMP's writer drops alpha anyway.
+    image.convertToFormat(QImage::Format_RGB888).save(&buffer, format, quality);
+    return workBuffer;
+}
+
+int Hid_Comm::writeKeyImage(int layoutValue, int deviceKey, const QImage& image)
+{
+    if (vendorLibraryInUse.load()) {
+        const QByteArray bytes = encode(image, "JPG", 100);
+        return VendorDeviceLibrary::instance().showImage(deviceKey - 1, bytes) == 0 ? Err_Success : Err_Failure;
+    }
+    const QByteArray bytes = encode(image, "BMP", -1);
+    const auto* data = reinterpret_cast<const uint8_t*>(bytes.constData());
+    if (usesSmallPackets(layoutValue))
+        return device.vT_WriteImageNUC442(uint8_t(deviceKey), data, bytes.size());
+    return device.vT_WriteImage(uint8_t(deviceKey), data, bytes.size());
+}
+
+bool Hid_Comm::sendIconArray(const QPixmap* icons)
+{
+    QImage images[MaxKeys];
+    for (int i = 0; i < MaxKeys; ++i)
+        images[i] = icons[i].toImage();
+    return sendIconArray(images);
+}
+
+bool Hid_Comm::sendIconArray(const QImage* icons)
+{
+    const int layoutValue = layout.load();
+    if (!opened.load() || !isValidLayout(layoutValue))
+        return false;
+    QMutexLocker locker(&deviceMutex);
+    int result = Err_Failure;
+    for (int position = 0; position < keyCount(layoutValue); ++position) {
+        result = writeKeyImage(layoutValue, deviceKeyNumber(layoutValue, position), icons[position]);
+        if (layoutValue == H_Key_32)
+            VTHidDev::delayMs(1);
+    }
+    return result == Err_Success;
+}
+
+// ---- other device calls -----------------------------------------------------
+
+void Hid_Comm::setBacklight(int val)
+{
+    QMutexLocker locker(&deviceMutex);
+    if (vendorLibraryInUse.load())
+        VendorDeviceLibrary::instance().setBrightness(val);
+    else
+        device.vT_SetBacklight(val);
+}
+
+bool Hid_Comm::readSerialNumber(QString& sn)
+{
+    QMutexLocker locker(&deviceMutex);
+    if (vendorLibraryInUse.load())
+        return VendorDeviceLibrary::instance().serialNumber(sn) == 0;
+    uint8_t serial[17] = {};
+    if (device.vT_ReadSerialNo(serial) != Err_Success)
+        return false;
+    sn = QString::fromLatin1(reinterpret_cast<const char*>(serial));
+    return true;
+}
+
+bool Hid_Comm::readFWVersion(QString& fwVer)
+{
+    QMutexLocker locker(&deviceMutex);
+    if (vendorLibraryInUse.load())
+        return VendorDeviceLibrary::instance().firmwareVersion(fwVer) == 0;
+    uint8_t version[13] = {};
+    if (device.vT_ReadFirmwareVersion(version) != Err_Success)
+        return false;
+    fwVer = QString::fromLatin1(reinterpret_cast<const char*>(version));
+    return true;
+}
+
+bool Hid_Comm::updateFW(QString fwPath)
+{
+    if (fwPath.isEmpty())
+        return false;
+    QMutexLocker gate(&readGate);
+    QMutexLocker locker(&deviceMutex);
+    return device.vT_FirmwareUpgrade(QFile::encodeName(fwPath).constData()) == Err_Success;
+}
+
+bool Hid_Comm::updateFW(QByteArray fwData)
+{
+    if (fwData.isEmpty())
+        return false;
+    QMutexLocker gate(&readGate);
+    QMutexLocker locker(&deviceMutex);
+    if (!usesSmallPackets(layout.load()))
+        return device.vT_FirmwareUpgrade(fwData) == Err_Success;
+    const bool flashed = device.vT_FirmwareUpgradeNUC442(fwData) == Err_Success;
+    // The handle now belongs to the boot loader; the keypad comes back under
+    // its own product id and is opened again when it arrives.
+    closeDevice();
+    opened.store(false);
+    locker.unlock();
+    emit KeyboardStatusChange(false);
+    return flashed;
+}
+
+int Hid_Comm::updateVendorFirmware(const QByteArray& image)
+{
+    QMutexLocker gate(&readGate);
+    QMutexLocker locker(&deviceMutex);
+    return VendorDeviceLibrary::instance().updateFirmware(image);
+}
+
+bool Hid_Comm::showLogo()
+{
+    QMutexLocker locker(&deviceMutex);
+    if (vendorLibraryInUse.load())
+        return VendorDeviceLibrary::instance().showLogo() == 0;
+    return device.vT_ShowLogo() == Err_Success;
+}

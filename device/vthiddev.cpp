@@ -1,0 +1,412 @@
+#include "vthiddev.h"
+
+#include "hidtransport.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <new>
+#include <vector>
+
+namespace {
+
+// The one device handle of the process; every VTHidDev works on it.
+std::atomic<HidDeviceHandle*> sharedHandle{nullptr};
+
+constexpr int LargeReportLength = 8017;
+constexpr int LargeChunkData = 8000;
+constexpr int SmallReportLength = 512;
+constexpr int SmallChunkData = 495;
+constexpr int ChunkHeaderLength = 17;
+constexpr int FeatureLength17 = 17;
+constexpr int FeatureLength33 = 33;
+constexpr int InputReportLength = 65;
+constexpr int KeyReportId = 0x01;
+
+constexpr int FirmwareHeaderLength = 64;
+// The file overload of the main-model upgrade leaves the file's last 13 bytes
+// out of its checksum; the array overload does not. Both are kept as they are.
+constexpr int FirmwareFileTrailer = 13;
+
+constexpr int BootLoaderReportLength = 513;
+constexpr int BootLoaderPageSize = 2048;
+constexpr int BootLoaderPacketData = 506;
+constexpr uint16_t BootLoaderPageEnd = 0xFF00;
+constexpr uint16_t BootLoaderFinish = 0xFE00;
+
+// hidapi's Linux back ends count the bytes of a feature answer including the
+// report id, which is the buffer's length for a complete answer.
+constexpr int CompleteAnswerExtra = 0;
+
+void putU16(uint8_t* at, uint16_t value)
+{
+    at[0] = uint8_t(value);
+    at[1] = uint8_t(value >> 8);
+}
+
+void putU32(uint8_t* at, uint32_t value)
+{
+    for (int i = 0; i < 4; ++i)
+        at[i] = uint8_t(value >> (8 * i));
+}
+
+HidTransport* transport()
+{
+    return HidTransport::instance();
+}
+
+HidDeviceHandle* handle()
+{
+    return sharedHandle.load();
+}
+
+uint32_t byteSum(const char* data, qint64 count)
+{
+    uint32_t sum = 0;
+    for (qint64 i = 0; i < count; ++i)
+        sum += uint8_t(data[i]);
+    return sum;
+}
+
+} // namespace
+
+bool VTHidDev::isDeviceOpen()
+{
+    return handle() != nullptr;
+}
+
+void VTHidDev::delayMs(int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+    }
+}
+
+int VTHidDev::vT_DeviceOpen(unsigned vidValue, unsigned pidValue)
+{
+    if (transport()->init() != 0)
+        return Err_DeviceOpen;
+    HidDeviceHandle* device = transport()->open(uint16_t(vidValue), uint16_t(pidValue));
+    if (!device)
+        return Err_DeviceOpen;
+    if (HidDeviceHandle* previous = sharedHandle.exchange(device))
+        transport()->close(previous);
+    vid = vidValue;
+    pid = pidValue;
+    return Err_Success;
+}
+
+int VTHidDev::vT_DeviceClose()
+{
+    if (HidDeviceHandle* device = sharedHandle.exchange(nullptr))
+        transport()->close(device);
+    transport()->exit();
+    vid = 0;
+    return Err_Success;
+}
+
+bool VTHidDev::vT_getDeviceInfo(int& vidOut, int& pidOut) const
+{
+    vidOut = int(vid);
+    pidOut = int(pid);
+    return vid != 0 && pid != 0;
+}
+
+int VTHidDev::sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, int reportLength)
+{
+    std::vector<uint8_t> report(size_t(reportLength), 0);
+    report[0] = 0x02;
+    putU32(&report[1], offset);
+    putU32(&report[5], length);
+    putU32(&report[9], 0x55AAAA55);
+    putU32(&report[13], 0x44332211);
+    std::memcpy(&report[ChunkHeaderLength], data + offset, length);
+    return transport()->write(handle(), report.data(), report.size());
+}
+
+// Full 8000-byte chunks, each followed by 2 ms, then the remainder. The
+// writes' results are not checked: the show or commit report that follows
+// tells whether the device took the object.
+int VTHidDev::sendLargeChunks(const uint8_t* data, int size)
+{
+    const int fullChunks = size / LargeChunkData;
+    for (int i = 0; i < fullChunks; ++i) {
+        sendChunk(data, uint32_t(i * LargeChunkData), LargeChunkData, LargeReportLength);
+        delayMs(2);
+    }
+    const int rest = size % LargeChunkData;
+    if (rest > 0) {
+        sendChunk(data, uint32_t(fullChunks * LargeChunkData), uint32_t(rest), LargeReportLength);
+        delayMs(2);
+    }
+    return Err_Success;
+}
+
+int VTHidDev::sendSmallChunks(const uint8_t* data, int size)
+{
+    delayMs(1);
+    const int fullChunks = size / SmallChunkData;
+    for (int i = 0; i < fullChunks; ++i)
+        sendChunk(data, uint32_t(i * SmallChunkData), SmallChunkData, SmallReportLength);
+    delayMs(1);
+    const int rest = size % SmallChunkData;
+    if (rest > 0) {
+        sendChunk(data, uint32_t(fullChunks * SmallChunkData), uint32_t(rest), SmallReportLength);
+        delayMs(1);
+    }
+    return Err_Success;
+}
+
+int VTHidDev::sendFeature(const uint8_t* report, int length)
+{
+    return transport()->sendFeatureReport(handle(), report, size_t(length));
+}
+
+int VTHidDev::sendShowImage(uint8_t key, int size)
+{
+    uint8_t report[FeatureLength33] = {0x12, 0x01};
+    putU32(&report[4], key);
+    putU32(&report[16], uint32_t(size));
+    return sendFeature(report, FeatureLength33) == FeatureLength33 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::sendClearKey(uint8_t key)
+{
+    delayMs(3);
+    const uint8_t report[FeatureLength17] = {0x14, 0xAC, key};
+    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::vT_WriteImage(uint8_t key, const uint8_t* data, int size)
+{
+    if (!handle())
+        return Err_NoDevice;
+    if (size >= MaxImageSize || size < 0 || (size > 0 && !data))
+        return Err_ParamInvalid;
+    if (size == 0)
+        return sendClearKey(key);
+    sendLargeChunks(data, size);
+    return sendShowImage(key, size);
+}
+
+int VTHidDev::vT_WriteImageNUC442(uint8_t key, const uint8_t* data, int size)
+{
+    if (!handle())
+        return Err_NoDevice;
+    if (size >= MaxImageSize || size < 0 || (size > 0 && !data))
+        return Err_ParamInvalid;
+    if (size == 0)
+        return sendClearKey(key);
+    sendSmallChunks(data, size);
+    return sendShowImage(key, size);
+}
+
+int VTHidDev::vT_SetBacklight(int level)
+{
+    if (!handle())
+        return Err_NoDevice;
+    const uint8_t report[2] = {0x11, uint8_t(level)};
+    return sendFeature(report, 2) == 2 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::vT_GetBacklight(int*)
+{
+    return Err_NotSupported;
+}
+
+int VTHidDev::readFeature(uint8_t reportId, uint8_t* buffer, int length, const char* method, int expected)
+{
+    std::memset(buffer, 0, size_t(length));
+    buffer[0] = reportId;
+    const int got = transport()->getFeatureReport(handle(), buffer, size_t(length));
+    if (got != expected) {
+        qDebug() << method << "Err_Failure: extpect write:" << expected << "but:" << got;
+        return Err_Failure;
+    }
+    return Err_Success;
+}
+
+int VTHidDev::vT_ReadSerialNo(uint8_t* serialNumber16)
+{
+    if (!handle())
+        return Err_NoDevice;
+    uint8_t buffer[FeatureLength17];
+    const int result = readFeature(0x17, buffer, FeatureLength17, "VTHidDev::vT_ReadSerialNo",
+                                   FeatureLength17 + CompleteAnswerExtra);
+    if (result != Err_Success)
+        return result;
+    std::memcpy(serialNumber16, buffer + 1, 16);
+    return Err_Success;
+}
+
+int VTHidDev::vT_WriteSerialNo(const uint8_t* serialNumber16)
+{
+    if (!handle())
+        return Err_NoDevice;
+    uint8_t report[FeatureLength17] = {0x17};
+    std::memcpy(report + 1, serialNumber16, 16);
+    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::vT_ReadFirmwareVersion(uint8_t* version12)
+{
+    if (!handle())
+        return Err_NoDevice;
+    uint8_t buffer[FeatureLength33 + 1] = {};
+    const int result = readFeature(0x10, buffer, FeatureLength33, "VTHidDev::vT_ReadFirmwareVersion",
+                                   FeatureLength33 + CompleteAnswerExtra);
+    if (result != Err_Success)
+        return result;
+    // The text starts at byte 1 and may fill the buffer: the extra zero byte
+    // above terminates it either way.
+    const char* text = reinterpret_cast<const char*>(buffer + 1);
+    const char* dot = std::strchr(text, '.');
+    if (!dot)
+        return Err_Failure;
+    const char* end = reinterpret_cast<const char*>(buffer + sizeof buffer);
+    std::memset(version12, 0, 12);
+    std::memcpy(version12, dot + 1, size_t(std::min<std::ptrdiff_t>(12, end - (dot + 1))));
+    return Err_Success;
+}
+
+int VTHidDev::vT_ShowLogo()
+{
+    if (!handle())
+        return Err_NoDevice;
+    uint8_t report[FeatureLength33] = {0x12, 0x02};
+    putU32(&report[4], 999);
+    putU32(&report[8], 9999);
+    return sendFeature(report, FeatureLength33) == FeatureLength33 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
+{
+    if (!handle())
+        return Err_NoDevice;
+    if (!keys)
+        return Err_ParamInvalid;
+    const int got = transport()->readTimeout(handle(), inputReport, InputReportLength, timeoutMs);
+    if (got == 0)
+        return Err_Timeout;
+    if (got < 0) {
+        vT_DeviceClose();
+        return Err_DeviceOpen;
+    }
+    if (inputReport[0] != KeyReportId)
+        return Err_ParamInvalid;
+    for (int n = 0; n < 64; ++n)
+        keys->key[n] = (inputReport[1 + n / 8] >> (n % 8)) & 1;
+    return Err_Success;
+}
+
+int VTHidDev::sendFirmwareCommit(const QByteArray& image, uint32_t checksum)
+{
+    sendLargeChunks(reinterpret_cast<const uint8_t*>(image.constData()), image.size());
+    uint8_t report[FeatureLength17] = {0x13};
+    putU32(&report[1], uint32_t(image.size()));
+    putU32(&report[5], checksum);
+    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+}
+
+int VTHidDev::vT_FirmwareUpgrade(const char* path)
+{
+    if (!handle())
+        return Err_NoDevice;
+    if (!path)
+        return Err_FileOpen;
+    QFile file(QFile::decodeName(path));
+    if (!file.open(QIODevice::ReadOnly))
+        return Err_FileOpen;
+    QByteArray image;
+    try {
+        image = file.readAll();
+    } catch (const std::bad_alloc&) {
+        return Err_NoMemory;
+    }
+    const qint64 summed = image.size() - FirmwareHeaderLength - FirmwareFileTrailer;
+    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderLength, summed) : 0;
+    return sendFirmwareCommit(image, checksum);
+}
+
+int VTHidDev::vT_FirmwareUpgrade(const QByteArray& image)
+{
+    if (!handle())
+        return Err_NoDevice;
+    const qint64 summed = image.size() - FirmwareHeaderLength;
+    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderLength, summed) : 0;
+    return sendFirmwareCommit(image, checksum);
+}
+
+int VTHidDev::sendBootLoaderControl(uint16_t page, uint16_t marker)
+{
+    uint8_t report[BootLoaderReportLength] = {0x00};
+    putU16(&report[1], page);
+    putU16(&report[3], marker);
+    const int written = transport()->write(handle(), report, sizeof report);
+    delayMs(2);
+    return written;
+}
+
+// One 2048-byte page as four 506-byte packets and one of 24, then the page
+// end. A short last page is padded with zeros.
+int VTHidDev::sendBootLoaderPage(const QByteArray& body, int page)
+{
+    for (int offset = 0; offset < BootLoaderPageSize; offset += BootLoaderPacketData) {
+        const int length = std::min(BootLoaderPacketData, BootLoaderPageSize - offset);
+        uint8_t report[BootLoaderReportLength] = {0x00};
+        putU16(&report[1], uint16_t(page));
+        putU16(&report[3], uint16_t(offset));
+        putU16(&report[5], uint16_t(length));
+        const int start = page * BootLoaderPageSize + offset;
+        const int available = std::clamp(body.size() - start, 0, length);
+        std::memcpy(&report[7], body.constData() + start, size_t(available));
+        transport()->write(handle(), report, sizeof report);
+        delayMs(2);
+    }
+    return sendBootLoaderControl(uint16_t(page), BootLoaderPageEnd);
+}
+
+bool VTHidDev::bootLoaderAcknowledged()
+{
+    uint8_t answer[InputReportLength] = {};
+    const int got = transport()->readTimeout(handle(), answer, sizeof answer, 1000);
+    return got >= 2 && answer[0] == 0x02 && answer[1] == 0xB1;
+}
+
+int VTHidDev::vT_FirmwareUpgradeNUC442(const QByteArray& image)
+{
+    if (!handle())
+        return Err_NoDevice;
+    const uint8_t enterBootLoader[FeatureLength17] = {0x14, 0xDC, 0xCD};
+    sendFeature(enterBootLoader, FeatureLength17);
+    delayMs(1000);
+
+    // The keypad is gone; its boot loader enumerates as a device of its own.
+    if (HidDeviceHandle* keypad = sharedHandle.exchange(nullptr))
+        transport()->close(keypad);
+    if (transport()->init() != 0)
+        return Err_DeviceOpen;
+    HidDeviceHandle* bootLoader = transport()->open(VendorId, BootLoaderProductId);
+    if (!bootLoader)
+        return Err_DeviceOpen;
+    sharedHandle.store(bootLoader);
+    vid = VendorId;
+    pid = BootLoaderProductId;
+
+    const QByteArray body = image.mid(FirmwareHeaderLength);
+    const int pages = (body.size() + BootLoaderPageSize - 1) / BootLoaderPageSize;
+    for (int page = 0; page < pages; ++page) {
+        sendBootLoaderPage(body, page);
+        if (!bootLoaderAcknowledged())
+            return Err_Failure;
+        delayMs(100);
+    }
+    sendBootLoaderControl(0, BootLoaderFinish);
+    delayMs(1000);
+    return Err_Success;
+}
