@@ -1,5 +1,7 @@
 #include "recordingtransport.h"
 
+#include <QThread>
+
 #include <cstring>
 
 RecordingTransport::RecordingTransport()
@@ -34,12 +36,18 @@ int RecordingTransport::write(HidDeviceHandle*, const unsigned char* data, size_
     return int(length);
 }
 
-int RecordingTransport::readTimeout(HidDeviceHandle*, unsigned char* data, size_t length, int)
+int RecordingTransport::readTimeout(HidDeviceHandle*, unsigned char* data, size_t length, int milliseconds)
 {
     QMutexLocker locker(&mutex);
     recorded.append({Read, QByteArray(), clock.nsecsElapsed()});
-    if (inputReports.isEmpty())
+    if (inputReports.isEmpty()) {
+        // A polling thread must not spin on an idle device.
+        if (readResult == 0) {
+            locker.unlock();
+            QThread::msleep(qMin(milliseconds, 20));
+        }
         return readResult;
+    }
     const QByteArray report = inputReports.takeFirst();
     const int count = qMin(int(length), report.size());
     std::memcpy(data, report.constData(), size_t(count));
@@ -57,8 +65,9 @@ int RecordingTransport::getFeatureReport(HidDeviceHandle*, unsigned char* data, 
 {
     QMutexLocker locker(&mutex);
     recorded.append({GetFeature, QByteArray(reinterpret_cast<const char*>(data), int(length)), clock.nsecsElapsed()});
-    const int count = qMin(int(length), featureAnswer.size());
-    std::memcpy(data, featureAnswer.constData(), size_t(count));
+    const QByteArray answer = featureAnswers.value(data[0], featureAnswer);
+    const int count = qMin(int(length), answer.size());
+    std::memcpy(data, answer.constData(), size_t(count));
     return featureAnswerCount == -2 ? count : featureAnswerCount;
 }
 

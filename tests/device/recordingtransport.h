@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QList>
+#include <QMap>
 #include <QMutex>
 
 // A transport that records every call and answers from scripted results, for
@@ -52,6 +53,7 @@ public:
     QList<QByteArray> inputReports;
     int readResult = 0; // used when inputReports is empty
     QByteArray featureAnswer;
+    QMap<quint8, QByteArray> featureAnswers; // by report id, before featureAnswer
     int featureAnswerCount = -2; // -2: the answer's length
     int featureSendShortBy = 0;
 

@@ -1,0 +1,103 @@
+#include "firmwarecatalog.h"
+#include "keylayout.h"
+#include "testmain.h"
+
+#include <QDir>
+#include <QStandardPaths>
+#include <QtEndian>
+
+class TestFirmwareCatalog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/firmware");
+        QDir(folder).removeRecursively();
+        QVERIFY(QDir().mkpath(folder));
+    }
+
+    void shouldChooseTheFirmwareByLayout_data()
+    {
+        QTest::addColumn<int>("layout");
+        QTest::addColumn<bool>("vendorLibrary");
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("firmwareId");
+        QTest::newRow("6 keys, horizontal") << 0 << false << "VKP-6P" << "F28B23P1F43";
+        QTest::newRow("6 keys, vertical") << 1 << false << "VKP-6P" << "F28B23P1F42";
+        QTest::newRow("15 keys, horizontal") << 2 << false << "VKP-15P" << "F43B35P1F41";
+        QTest::newRow("15 keys, vertical") << 3 << false << "VKP-15P" << "F43B35P1F40";
+        QTest::newRow("15 keys, maker's library") << 3 << true << "VKP-15P" << "VKP15-01-0";
+        QTest::newRow("32 keys, horizontal") << 4 << false << "VKP-32L" << "F70B48P1F44";
+        QTest::newRow("32 keys, vertical") << 5 << false << "VKP-32L" << "F70B48P1F44";
+        QTest::newRow("no layout") << -1 << false << "Unknown Device" << "Unknown Device";
+        QTest::newRow("beyond the layouts") << 6 << false << "Unknown Device" << "Unknown Device";
+    }
+
+    void shouldChooseTheFirmwareByLayout()
+    {
+        QFETCH(int, layout);
+        QFETCH(bool, vendorLibrary);
+        QFETCH(QString, model);
+        QFETCH(QString, firmwareId);
+        QCOMPARE(FirmwareCatalog::modelName(layout), model);
+        QCOMPARE(FirmwareCatalog::firmwareId(layout, vendorLibrary), firmwareId);
+        FirmwareCatalog::Entry entry;
+        if (!FirmwareCatalog::isKnownDevice(firmwareId))
+            QVERIFY(!FirmwareCatalog::packagedVersion(firmwareId, vendorLibrary, entry));
+    }
+
+    void shouldReadTheVersionFromTheImageName()
+    {
+        put("F43B35P1F41_170124.bin");
+        put("VKP15-01-0_V1.3.0.0.sys");
+        FirmwareCatalog::Entry entry;
+        QVERIFY(FirmwareCatalog::packagedVersion(QStringLiteral("F43B35P1F41"), false, entry));
+        QCOMPARE(entry.version, QStringLiteral("1.0.170124"));
+        QCOMPARE(FirmwareCatalog::imagePath(QStringLiteral("F43B35P1F41"), entry, false),
+                 folder + QStringLiteral("/F43B35P1F41_170124.bin"));
+
+        QVERIFY(FirmwareCatalog::packagedVersion(QStringLiteral("VKP15-01-0"), true, entry));
+        QCOMPARE(entry.version, QStringLiteral("1.3.0.0"));
+        QCOMPARE(FirmwareCatalog::imagePath(QStringLiteral("VKP15-01-0"), entry, true),
+                 folder + QStringLiteral("/VKP15-01-0_V1.3.0.0.sys"));
+    }
+
+    void shouldNeverChooseAnImageForAnotherKeypad()
+    {
+        put("F70B48P1F45_170125.bin");
+        put("f43b35p1f41_170124.bin"); // the id is matched case-sensitively
+        FirmwareCatalog::Entry entry;
+        QVERIFY(!FirmwareCatalog::packagedVersion(QStringLiteral("F70B48P1F44"), false, entry));
+        QVERIFY(!FirmwareCatalog::packagedVersion(QStringLiteral("F43B35P1F41"), false, entry));
+        QVERIFY(!FirmwareCatalog::packagedVersion(QString(), false, entry));
+    }
+
+    void shouldPutTheHostHeaderInFront()
+    {
+        const QByteArray image = QByteArray("\x01\x02\xFF", 3) + QByteArray(1000, '\x10');
+        const QByteArray header = FirmwareCatalog::hostHeader(image);
+        QCOMPARE(header.size(), 64);
+        QCOMPARE(header.left(27), QByteArray("kelvaris industrial product"));
+        QCOMPARE(header.mid(27, 5), QByteArray(5, '\0'));
+        QCOMPARE(header.mid(32, 7), QByteArray("version"));
+        QCOMPARE(header.mid(39, 17), QByteArray(17, '\0'));
+        const auto* raw = reinterpret_cast<const uchar*>(header.constData());
+        QCOMPARE(qFromBigEndian<quint32>(raw + 56), quint32(image.size()));
+        QCOMPARE(qFromBigEndian<quint32>(raw + 60), quint32(1 + 2 + 255 + 1000 * 16));
+    }
+
+private:
+    void put(const char* name)
+    {
+        QFile file(folder + QLatin1Char('/') + QLatin1String(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(4096, '\x5A'));
+    }
+
+    QString folder;
+};
+
+KEYSTAGE_TEST_MAIN(TestFirmwareCatalog)
+#include "tst_firmwarecatalog.moc"
