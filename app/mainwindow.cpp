@@ -4,6 +4,7 @@
 #include "clicklabel.h"
 #include "dialog.h"
 #include "favoritekeyitemmodel.h"
+#include "hid_comm.h"
 #include "ipc_thread.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
@@ -13,6 +14,7 @@
 #include "settingskeys.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
+#include "updatedevicon.h"
 #include "trayicon.h"
 #include "windowsystem.h"
 
@@ -61,6 +63,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 
     buildWindow();
     createModel();
+    createDevice();
     setupTray();
 
     m_terminationSignals = new TerminationSignals(this);
@@ -87,7 +90,8 @@ MainWindow::~MainWindow()
     UserQuestions::setHandler(nullptr);
     LOG_MSG(QStringLiteral("main window closed%1").arg(m_restartFlag ? QStringLiteral(", restarting") : QString()));
     ObjectRegistry::unregisterMainWindow();
-    for (ComponentId id : {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig})
+    for (ComponentId id : {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig,
+                           ComponentId::HidComm})
         ObjectRegistry::unregisterObject(id);
     if (m_restartFlag)
         startRestartedInstance();
@@ -171,6 +175,45 @@ void MainWindow::createModel()
     m_keyItemModel->reloadKeyItemsFromSettings();
     m_favorites->reloadKeyItemsFromSettings();
     m_layoutConfig->reloadLayout();
+}
+
+// The keypad connection starts polling at once; the layout in force reaches
+// it first, so the first full update after it opens has a layout to use.
+void MainWindow::createDevice()
+{
+    m_hidComm = new Hid_Comm;
+    ObjectRegistry::registerObject(ComponentId::HidComm, m_hidComm);
+    m_hidComm->onButtonLayoutChanged(KeyLayout(m_layoutConfig->currentLayout()));
+    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_hidComm, &Hid_Comm::onButtonLayoutChanged,
+            Qt::DirectConnection);
+    connect(m_hidComm, &Hid_Comm::KeyboardStatusChange, this, &MainWindow::onKeyboardStatusChange,
+            Qt::QueuedConnection);
+    // The model may change on the key action thread; key images are made on
+    // this one.
+    connect(m_keyItemModel, &KeyItemModel::updateContent, this, &MainWindow::onModelContentChanged,
+            Qt::QueuedConnection);
+    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this,
+            [] { UpdateDevIcon::updateAllIcon(); }, Qt::QueuedConnection);
+}
+
+void MainWindow::onKeyboardStatusChange(bool connected)
+{
+    if (!connected) {
+        if (!m_hidComm->isOpened())
+            setKeypadStatus(tr("No keypad connected"));
+        return;
+    }
+    setKeypadStatus(tr("Keypad connected"));
+    UpdateDevIcon::updateAllIcon();
+}
+
+// A null item stands for the whole page (a folder opened, a layout change).
+void MainWindow::onModelContentChanged(const KeyItem* item)
+{
+    if (!item)
+        UpdateDevIcon::updateAllIcon();
+    else if (item->ownerList == m_keyItemModel->getCurrentLayoutListHead())
+        UpdateDevIcon::updateKeyIcon(item);
 }
 
 void MainWindow::onButtonLayoutChanged(int layout)
@@ -384,6 +427,11 @@ void MainWindow::stopThreads()
 {
     if (m_ipcThread)
         m_ipcThread->stop();
+    if (m_hidComm) {
+        ObjectRegistry::unregisterObject(ComponentId::HidComm);
+        delete m_hidComm;
+        m_hidComm = nullptr;
+    }
 }
 
 void MainWindow::startRestartedInstance()

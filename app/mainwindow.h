@@ -8,6 +8,8 @@
 
 class ButtonLayoutConfig;
 class FavoriteKeyItemModel;
+class Hid_Comm;
+class KeyItem;
 class IPC_Thread;
 class KeyItemModel;
 class Settings;
@@ -72,6 +74,9 @@ protected:
 private:
     void buildWindow();
     void createModel();
+    void createDevice();
+    void onKeyboardStatusChange(bool connected);
+    void onModelContentChanged(const KeyItem* item);
     void onButtonLayoutChanged(int layout);
     void tellUser(const QString& subject, const QString& text);
     void setupTray();
@@ -96,6 +101,7 @@ private:
     TrayIcon* m_tray = nullptr;
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
+    Hid_Comm* m_hidComm = nullptr;
     bool m_restartFlag = false;
     bool m_quitting = false;
 };
