@@ -1,0 +1,3 @@
+#include "hidraweventsource.h"
+
+HidrawEventSource::~HidrawEventSource() = default;
