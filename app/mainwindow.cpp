@@ -8,10 +8,13 @@
 #include "ipc_thread.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypadaccess.h"
+#include "keypadmonitor.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "settings.h"
 #include "settingskeys.h"
+#include "sleepmonitor.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "updatedevicon.h"
@@ -188,6 +191,20 @@ void MainWindow::createDevice()
             Qt::DirectConnection);
     connect(m_hidComm, &Hid_Comm::KeyboardStatusChange, this, &MainWindow::onKeyboardStatusChange,
             Qt::QueuedConnection);
+
+    m_keypadMonitor = new KeypadMonitor(this);
+    connect(m_keypadMonitor, &KeypadMonitor::keypadArrived, m_hidComm, &Hid_Comm::onKeyboardWasAdded);
+    connect(m_keypadMonitor, &KeypadMonitor::keypadRemoved, m_hidComm, &Hid_Comm::onKeyboardWasRemoved);
+    m_sleepMonitor = new SleepMonitor(this);
+    connect(m_sleepMonitor, &SleepMonitor::aboutToSleep, m_hidComm, &Hid_Comm::onOS_suspend);
+    connect(m_sleepMonitor, &SleepMonitor::resumed, m_hidComm, &Hid_Comm::onOS_resumes);
+
+    // Every failed open attempt says "disconnected"; the status line looks
+    // once the attempts have settled.
+    m_keypadStatusTimer = new QTimer(this);
+    m_keypadStatusTimer->setSingleShot(true);
+    m_keypadStatusTimer->setInterval(200);
+    connect(m_keypadStatusTimer, &QTimer::timeout, this, &MainWindow::showKeypadStatus);
     // The model may change on the key action thread; key images are made on
     // this one.
     connect(m_keyItemModel, &KeyItemModel::updateContent, this, &MainWindow::onModelContentChanged,
@@ -198,13 +215,30 @@ void MainWindow::createDevice()
 
 void MainWindow::onKeyboardStatusChange(bool connected)
 {
-    if (!connected) {
-        if (!m_hidComm->isOpened())
-            setKeypadStatus(tr("No keypad connected"));
+    if (!m_hidComm)
+        return;
+    m_keypadStatusTimer->start();
+    if (connected)
+        UpdateDevIcon::updateAllIcon();
+}
+
+// Connected, absent, or present but out of reach for lack of permission:
+// the last one names its fix, because nothing else would tell the user.
+void MainWindow::showKeypadStatus()
+{
+    if (!m_hidComm)
+        return;
+    if (m_hidComm->isOpened()) {
+        setKeypadStatus(tr("Keypad connected"));
         return;
     }
-    setKeypadStatus(tr("Keypad connected"));
-    UpdateDevIcon::updateAllIcon();
+    const KeypadAccess::Result access = KeypadAccess::check();
+    if (access.status == KeypadAccess::NoPermission) {
+        LOG_MSG(QStringLiteral("keypad at %1 cannot be opened: no permission").arg(access.nodePath));
+        setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()));
+        return;
+    }
+    setKeypadStatus(tr("No keypad connected"));
 }
 
 // A null item stands for the whole page (a folder opened, a layout change).

@@ -9,12 +9,15 @@
 class ButtonLayoutConfig;
 class FavoriteKeyItemModel;
 class Hid_Comm;
+class KeypadMonitor;
+class SleepMonitor;
 class KeyItem;
 class IPC_Thread;
 class KeyItemModel;
 class Settings;
 class QLabel;
 class QSettings;
+class QTimer;
 class QTranslator;
 class TerminationSignals;
 class TitleBar;
@@ -76,6 +79,7 @@ private:
     void createModel();
     void createDevice();
     void onKeyboardStatusChange(bool connected);
+    void showKeypadStatus();
     void onModelContentChanged(const KeyItem* item);
     void onButtonLayoutChanged(int layout);
     void tellUser(const QString& subject, const QString& text);
@@ -102,6 +106,9 @@ private:
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
     Hid_Comm* m_hidComm = nullptr;
+    KeypadMonitor* m_keypadMonitor = nullptr;
+    SleepMonitor* m_sleepMonitor = nullptr;
+    QTimer* m_keypadStatusTimer = nullptr;
     bool m_restartFlag = false;
     bool m_quitting = false;
 };

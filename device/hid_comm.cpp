@@ -2,6 +2,7 @@
 
 #include "keyfacerenderer.h"
 #include "keyitem.h"
+#include "keypadids.h"
 #include "logging.h"
 #include "vendordevicelibrary.h"
 
@@ -13,9 +14,6 @@
 
 namespace {
 
-constexpr uint32_t VendorId = 0xFFFF;
-// The order in which keypads are looked for at start.
-constexpr uint32_t SupportedProductIds[] = {0x1F43, 0x1F42, 0x1F41, 0x1F40, 0x1F45, 0x1F44, 0x110E};
 constexpr int KeyCounts[] = {6, 6, 15, 15, 32, 32};
 constexpr int PollTimeoutMs = 100;
 constexpr int IdlePollMs = 1000;
@@ -145,6 +143,10 @@ void Hid_Comm::closeDevice()
 
 bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
 {
+    // Checked before the gate too: arrival notices for an open keypad (one
+    // per HID interface) must not wait for a read to end.
+    if (opened.load())
+        return false;
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     if (opened.load())
@@ -173,8 +175,8 @@ bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
 
 void Hid_Comm::openFirstSupportedKeyboard()
 {
-    for (uint32_t pid : SupportedProductIds) {
-        if (openSDKeyboard(VendorId, pid))
+    for (quint32 pid : KeypadIds::supportedProductIds()) {
+        if (openSDKeyboard(KeypadIds::VendorId, pid))
             return;
     }
 }
