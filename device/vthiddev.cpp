@@ -26,6 +26,7 @@ constexpr int FeatureLength17 = 17;
 constexpr int FeatureLength33 = 33;
 constexpr int InputReportLength = 65;
 constexpr int KeyReportId = 0x01;
+constexpr int KeyReportLength = 9; // id and 64 key bits
 
 constexpr int FirmwareHeaderLength = 64;
 // The file overload of the main-model upgrade leaves the file's last 13 bytes
@@ -290,6 +291,7 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
         return Err_NoDevice;
     if (!keys)
         return Err_ParamInvalid;
+    std::memset(inputReport, 0, sizeof inputReport);
     const int got = transport()->readTimeout(handle(), inputReport, InputReportLength, timeoutMs);
     if (got == 0)
         return Err_Timeout;
@@ -297,7 +299,8 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
         vT_DeviceClose();
         return Err_DeviceOpen;
     }
-    if (inputReport[0] != KeyReportId)
+    // A key report cut short would leave key bits undefined: refuse it too.
+    if (inputReport[0] != KeyReportId || got < KeyReportLength)
         return Err_ParamInvalid;
     for (int n = 0; n < 64; ++n)
         keys->key[n] = (inputReport[1 + n / 8] >> (n % 8)) & 1;
