@@ -1,7 +1,12 @@
 #include "ka_folder.h"
 
+#include "actionservices.h"
 #include "buttonlayoutconfig.h"
 #include "keyitem.h"
+#include "keyitemmodel.h"
+#include "objectregistry.h"
+
+#include <QFileInfo>
 
 KA_Folder::KA_Folder(KeyItem* owner) : owner(owner)
 {
@@ -105,14 +110,33 @@ int KA_Folder::linkCount() const
     return count;
 }
 
+// Opens the folder when the application it names is in front, unless its
+// page is already the one shown.
 bool KA_Folder::doAction()
 {
+    ActionServices* services = ActionServices::instance();
+    auto* model = qobject_cast<KeyItemModel*>(ObjectRegistry::find(ComponentId::KeyItemModel));
+    if (!services || !model)
+        return false;
+    if (appName.isEmpty() || QFileInfo(appName).baseName() != services->foregroundApplicationName())
+        return true;
+    if (model->getCurrentLayoutListHead() != &childList)
+        doAction(0);
     return true;
 }
 
+// Enters the folder: its page becomes the one shown on the keypad and in the
+// editor.
 bool KA_Folder::doAction(int)
 {
-    return false;
+    auto* model = qobject_cast<KeyItemModel*>(ObjectRegistry::find(ComponentId::KeyItemModel));
+    if (!model)
+        return false;
+    model->beginUpdate();
+    model->changeListHead(this, &childList);
+    isExpend = true;
+    model->endUpdate(true);
+    return true;
 }
 
 KeyActionType KA_Folder::getActionType() const

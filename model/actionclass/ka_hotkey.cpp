@@ -1,5 +1,7 @@
 #include "ka_hotkey.h"
 
+#include "actionservices.h"
+
 #include "keyitem.h"
 
 KA_HotKey::KA_HotKey(KeyItem* owner) : owner(owner) {}
@@ -29,4 +31,14 @@ void KA_HotKey::reset()
     keyCmd = keyOption = keyCtrl = keyShift = false;
     qtKeyCode = -1;
     nativeCode = -1;
+}
+
+// Command is sent as the Super key, Option as Alt.
+bool KA_HotKey::doAction(int)
+{
+    ActionServices* services = ActionServices::instance();
+    if (!isValid() || !services)
+        return false;
+    services->sendKeyEvent(nativeCode, keyCmd, keyOption, keyCtrl, keyShift);
+    return true;
 }

@@ -13,6 +13,7 @@ public:
     void copyFrom(const KA_HotKey& src);
 
     KeyActionType getActionType() const override;
+    bool doAction(int param) override;
     bool isValid() const override;
     void reset() override;
 

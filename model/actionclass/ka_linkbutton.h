@@ -8,6 +8,7 @@ class KA_LinkButton : public KeyActionAbstr
     Q_OBJECT
 public:
     KeyActionType getActionType() const override;
+    bool doAction(int param) override;
     bool isValid() const override;
     void reset() override;
 };

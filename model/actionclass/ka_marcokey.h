@@ -11,6 +11,7 @@ class KA_MarcoKey : public KeyActionAbstr
     Q_OBJECT
 public:
     KeyActionType getActionType() const override;
+    bool doAction(int param) override;
     bool isValid() const override;
     void reset() override;
 

@@ -10,6 +10,7 @@ class KA_PastString : public KeyActionAbstr
     Q_OBJECT
 public:
     KeyActionType getActionType() const override;
+    bool doAction(int param) override;
     bool isValid() const override;
     void reset() override;
 
