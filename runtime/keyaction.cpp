@@ -1,0 +1,135 @@
+#include "keyaction.h"
+
+#include "buttonlayoutconfig.h"
+#include "hid_comm.h"
+#include "keyactionabstr.h"
+#include "keyfacerenderer.h"
+#include "keyitem.h"
+#include "keyitemmodel.h"
+#include "logging.h"
+#include "objectregistry.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr int RowLength = 32;
+
+// Device key id -> button index, one row of 32 per layout, read at
+// layout * 32 + id. How each keypad model numbers its keys; kept as data.
+// The lookup is not bounded by the row: on layout 4 the id 32 reads the
+// first entry of layout 5's row and so reaches button 31.
+constexpr int DeviceKeyToButton[6 * RowLength] = {
+    // layout 0: id 0 -> 31, ids 1..15 -> 0..14
+    31, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
+    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
+    // layout 1
+    -1, 1, 3, 5, 0, 2, 4, -1, -1, -1, -1, -1, -1, -1, -1, -1, //
+    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
+    // layout 2
+    -1, 4, 3, 2, 1, 0, 9, 8, 7, 6, 5, 14, 13, 12, 11, 10, //
+    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
+    // layout 3
+    -1, 0, 3, 6, 9, 12, 1, 4, 7, 10, 13, 2, 5, 8, 11, 14, //
+    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
+    // layout 4: ids 1..31 -> 0..30
+    -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
+    15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30,
+    // layout 5: id 0 -> 31, ids 1..31 -> 0..30
+    31, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
+    15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30,
+};
+
+int currentLayout()
+{
+    auto* layouts = COMPONENT(ButtonLayoutConfig, ComponentId::ButtonLayoutConfig);
+    return layouts ? layouts->currentLayout() : -1;
+}
+
+// The item under a button and its current action, when both exist and the
+// action is configured; an unconfigured key does nothing and shows nothing.
+KeyItem* configuredItem(KeyItemModel* model, int button)
+{
+    if (!model || button < 0 || button >= KeyItemModel::MaxKeys)
+        return nullptr;
+    KeyItem* item = model->keyItemAt(button);
+    if (!item || !item->currentAction() || !item->currentAction()->isValid())
+        return nullptr;
+    return item;
+}
+
+// Feedback goes to the screen of the button's own key. (The image reports
+// number keys from 0 on some models where key reports count from 1.)
+void showFace(const KeyItem* item, int layout, int button, bool pressedLook)
+{
+    auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
+    if (!hid)
+        return;
+    hid->sendIcon(Hid_Comm::deviceKeyNumber(layout, button), KeyFaceRenderer::render(item), pressedLook);
+}
+
+} // namespace
+
+KeyAction::KeyAction(QObject* parent) : QObject(parent)
+{
+    m_thread.setObjectName(QStringLiteral("KeyAction"));
+    moveToThread(&m_thread);
+    m_thread.start(QThread::InheritPriority);
+}
+
+KeyAction::~KeyAction()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
+
+int KeyAction::buttonIndex(int layout, int devKeyId)
+{
+    // Ids are never negative; the only reach beyond a row is id 32.
+    const int at = layout * RowLength + devKeyId;
+    if (layout < 0 || layout > 5 || devKeyId < 0 || at >= int(std::size(DeviceKeyToButton)))
+        return -1;
+    return DeviceKeyToButton[at];
+}
+
+void KeyAction::onKeyPressed(int devKeyId)
+{
+    LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
+    const int layout = currentLayout();
+    if (!ButtonLayoutConfig::isValidLayout(layout)) {
+        LOG_MSG(QStringLiteral("layoutType out of range!!!"));
+        return;
+    }
+    const int button = buttonIndex(layout, devKeyId);
+    KeyItem* item = configuredItem(COMPONENT(KeyItemModel, ComponentId::KeyItemModel), button);
+    if (!item)
+        return;
+    showFace(item, layout, button, true);
+    item->currentAction()->doAction(0);
+}
+
+// A release shows the face again; a two-feature hotkey first switches to its
+// other feature, so the next press performs that one.
+void KeyAction::onKeyRleased(int devKeyId)
+{
+    LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
+    const int layout = currentLayout();
+    if (!ButtonLayoutConfig::isValidLayout(layout)) {
+        LOG_MSG(QStringLiteral("layoutType out of range!!!"));
+        return;
+    }
+    auto* model = COMPONENT(KeyItemModel, ComponentId::KeyItemModel);
+    if (!model)
+        return;
+    const int button = buttonIndex(layout, devKeyId);
+    model->beginUpdate();
+    KeyItem* item = configuredItem(model, button);
+    if (item) {
+        if (item->multiFeatureFlag)
+            item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
+        showFace(item, layout, button, false);
+    }
+    model->endUpdate(item != nullptr, item);
+    if (item && item->multiFeatureFlag)
+        emit updateContent(item);
+}

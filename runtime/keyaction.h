@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+#include <QThread>
+
+class KeyItem;
+
+// Turns the keypad's key events into actions. It lives on a thread of its
+// own, so a slow action (a macro, a launch) never holds up the GUI or the
+// device thread; events queue up meanwhile and are handled one at a time.
+class KeyAction : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit KeyAction(QObject* parent = nullptr);
+    ~KeyAction() override;
+
+    // The button of the current page under a device key id, -1 for none.
+    static int buttonIndex(int layout, int devKeyId);
+
+signals:
+    void updateContent(const KeyItem* keyItem);
+
+public slots:
+    void onKeyPressed(int devKeyId);
+    void onKeyRleased(int devKeyId);
+
+private:
+    QThread m_thread;
+};
