@@ -17,8 +17,8 @@
 #include "sleepmonitor.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
-#include "updatedevicon.h"
 #include "trayicon.h"
+#include "updatedevicon.h"
 #include "windowsystem.h"
 
 #include <QApplication>
@@ -93,8 +93,8 @@ MainWindow::~MainWindow()
     UserQuestions::setHandler(nullptr);
     LOG_MSG(QStringLiteral("main window closed%1").arg(m_restartFlag ? QStringLiteral(", restarting") : QString()));
     ObjectRegistry::unregisterMainWindow();
-    for (ComponentId id : {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig,
-                           ComponentId::HidComm})
+    for (ComponentId id :
+         {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig, ComponentId::HidComm})
         ObjectRegistry::unregisterObject(id);
     if (m_restartFlag)
         startRestartedInstance();
@@ -209,8 +209,9 @@ void MainWindow::createDevice()
     // this one.
     connect(m_keyItemModel, &KeyItemModel::updateContent, this, &MainWindow::onModelContentChanged,
             Qt::QueuedConnection);
-    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this,
-            [] { UpdateDevIcon::updateAllIcon(); }, Qt::QueuedConnection);
+    connect(
+        m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this, [] { UpdateDevIcon::updateAllIcon(); },
+        Qt::QueuedConnection);
 }
 
 void MainWindow::onKeyboardStatusChange(bool connected)

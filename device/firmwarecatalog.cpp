@@ -81,9 +81,9 @@ bool FirmwareCatalog::packagedVersion(const QString& id, bool vendorLibrary, Ent
             if (!name.contains(id, Qt::CaseSensitive))
                 continue;
             entry.directory = directory;
-            entry.version = vendorLibrary ? stripped(name, id + QStringLiteral("_V"), QStringLiteral(".sys"))
-                                          : OwnVersionPrefix + stripped(name, id + QStringLiteral("_"),
-                                                                        QStringLiteral(".bin"));
+            entry.version = vendorLibrary
+                                ? stripped(name, id + QStringLiteral("_V"), QStringLiteral(".sys"))
+                                : OwnVersionPrefix + stripped(name, id + QStringLiteral("_"), QStringLiteral(".bin"));
             return true;
         }
     }

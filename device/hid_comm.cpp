@@ -26,9 +26,9 @@ constexpr int DeviceKeyNumbers[6][32] = {
     {4, 1, 5, 2, 6, 3},
     {5, 4, 3, 2, 1, 10, 9, 8, 7, 6, 15, 14, 13, 12, 11},
     {1, 6, 11, 2, 7, 12, 3, 8, 13, 4, 9, 14, 5, 10, 15},
-    {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
+    {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16,
      17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32},
-    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,
+    {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15,
      16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31},
 };
 
@@ -57,15 +57,14 @@ QImage composeKeyImage(const QImage& icon, bool effectIcon)
     if (!effectIcon) {
         if (icon.isNull())
             return blackKey();
-        QImage scaled = icon.size() == keySize ? icon : icon.scaled(keySize, Qt::IgnoreAspectRatio,
-                                                                    Qt::SmoothTransformation);
+        QImage scaled =
+            icon.size() == keySize ? icon : icon.scaled(keySize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         return scaled.convertToFormat(QImage::Format_RGBA8888);
     }
     QImage image = blackKey();
     if (icon.isNull())
         return image;
-    const QImage fitted =
-        icon.scaled(EffectIconSize, EffectIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const QImage fitted = icon.scaled(EffectIconSize, EffectIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
     painter.drawImage((keySize.width() - fitted.width()) / 2, (keySize.height() - fitted.height()) / 2, fitted);
@@ -188,9 +187,7 @@ void Hid_Comm::onKeyboardWasAdded(uint32_t vid, uint32_t pid)
 
 // A removed keypad shows itself through the failing read in the polling
 // loop, which closes it; nothing to do here.
-void Hid_Comm::onKeyboardWasRemoved()
-{
-}
+void Hid_Comm::onKeyboardWasRemoved() {}
 
 void Hid_Comm::onButtonLayoutChanged(KeyLayout keylayout)
 {

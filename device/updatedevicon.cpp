@@ -8,7 +8,6 @@
 #include "logging.h"
 #include "objectregistry.h"
 
-
 namespace {
 // Reused by every full update; only the GUI thread runs one.
 QImage keyImages[Hid_Comm::MaxKeys];

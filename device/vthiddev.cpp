@@ -237,8 +237,8 @@ int VTHidDev::vT_ReadSerialNo(uint8_t* serialNumber16)
     if (!handle())
         return Err_NoDevice;
     uint8_t buffer[FeatureLength17];
-    const int result = readFeature(0x17, buffer, FeatureLength17, "VTHidDev::vT_ReadSerialNo",
-                                   FeatureLength17 + CompleteAnswerExtra);
+    const int result =
+        readFeature(0x17, buffer, FeatureLength17, "VTHidDev::vT_ReadSerialNo", FeatureLength17 + CompleteAnswerExtra);
     if (result != Err_Success)
         return result;
     std::memcpy(serialNumber16, buffer + 1, 16);

@@ -54,7 +54,7 @@ public:
     int readResult = 0; // used when inputReports is empty
     QByteArray featureAnswer;
     QMap<quint8, QByteArray> featureAnswers; // by report id, before featureAnswer
-    int featureAnswerCount = -2; // -2: the answer's length
+    int featureAnswerCount = -2;             // -2: the answer's length
     int featureSendShortBy = 0;
 
 private:

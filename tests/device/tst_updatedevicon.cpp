@@ -79,8 +79,7 @@ private slots:
             QImage expected = item ? KeyFaceRenderer::render(item) : QImage(72, 72, QImage::Format_RGB888);
             if (!item)
                 expected.fill(Qt::black);
-            QCOMPARE(asShown(keypad->keyImage(deviceKey)),
-                     asShown(Hid_Comm::orientForLayout(expected, layout)));
+            QCOMPARE(asShown(keypad->keyImage(deviceKey)), asShown(Hid_Comm::orientForLayout(expected, layout)));
         }
         QCOMPARE(keypad->keysWithImages().size(), keys);
         QCOMPARE(keypad->errorCount(), 0);

@@ -1,11 +1,11 @@
-#include "recordingtransport.h"
 #include "logcapture.h"
+#include "recordingtransport.h"
 #include "testmain.h"
 #include "vthiddev.h"
 
 #include <QTemporaryFile>
-#include <cstring>
 #include <QtEndian>
+#include <cstring>
 
 namespace {
 quint32 u32At(const QByteArray& bytes, int at)
@@ -267,9 +267,9 @@ private slots:
         transport->featureAnswer = QByteArray("\x17") + "SN";
         uint8_t serial[16] = {};
         QCOMPARE(device.vT_ReadSerialNo(serial), int(Err_Failure));
-        QCOMPARE(capture.matching(QStringLiteral("VTHidDev::vT_ReadSerialNo Err_Failure: extpect write: 17 but: 3"))
-                     .size(),
-                 1);
+        QCOMPARE(
+            capture.matching(QStringLiteral("VTHidDev::vT_ReadSerialNo Err_Failure: extpect write: 17 but: 3")).size(),
+            1);
         transport->featureAnswerCount = -1;
         uint8_t version[12] = {};
         QCOMPARE(device.vT_ReadFirmwareVersion(version), int(Err_Failure));

@@ -19,11 +19,21 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("program");
         QTest::addColumn<QString>("rest");
-        QTest::newRow("quoted program") << "\"/opt/my app/run\" --x \"a b\"" << "/opt/my app/run" << "--x \"a b\"";
-        QTest::newRow("plain program") << "/usr/bin/env FOO=1  tool " << "/usr/bin/env" << "FOO=1  tool";
-        QTest::newRow("program alone") << "  gimp  " << "gimp" << "";
-        QTest::newRow("unclosed quote") << "\"/opt/x y" << "/opt/x y" << "";
-        QTest::newRow("tab") << "prog\t-v" << "prog" << "-v";
+        QTest::newRow("quoted program") << "\"/opt/my app/run\" --x \"a b\""
+                                        << "/opt/my app/run"
+                                        << "--x \"a b\"";
+        QTest::newRow("plain program") << "/usr/bin/env FOO=1  tool "
+                                       << "/usr/bin/env"
+                                       << "FOO=1  tool";
+        QTest::newRow("program alone") << "  gimp  "
+                                       << "gimp"
+                                       << "";
+        QTest::newRow("unclosed quote") << "\"/opt/x y"
+                                        << "/opt/x y"
+                                        << "";
+        QTest::newRow("tab") << "prog\t-v"
+                             << "prog"
+                             << "-v";
     }
 
     void shouldSplitTheProgramFromItsArguments()
@@ -58,8 +68,8 @@ private slots:
     {
         const QString program = makeFile(QStringLiteral("run tool"), true);
         executeCmd(QStringLiteral("\"%1\" --flag \"two words\" plain").arg(program));
-        QCOMPARE(services.calls(), QStringList{QStringLiteral("start %1 [--flag, two words, plain] in %2")
-                                                   .arg(program, dir.path())});
+        QCOMPARE(services.calls(),
+                 QStringList{QStringLiteral("start %1 [--flag, two words, plain] in %2").arg(program, dir.path())});
     }
 
     void shouldOpenDocumentsAndFoldersWithTheDesktop()
@@ -67,8 +77,8 @@ private slots:
         const QString document = makeFile(QStringLiteral("notes file.txt"), false);
         executeCmd(document); // a path with a blank, unquoted
         executeCmd(dir.path());
-        QCOMPARE(services.calls(), (QStringList{QStringLiteral("open file://") + document,
-                                               QStringLiteral("open file://") + dir.path()}));
+        QCOMPARE(services.calls(),
+                 (QStringList{QStringLiteral("open file://") + document, QStringLiteral("open file://") + dir.path()}));
     }
 
     void shouldOpenAProgramThatWillNotStart()
@@ -85,18 +95,22 @@ private slots:
         if (shell.isEmpty())
             QSKIP("no sh on PATH");
         executeCmd(QStringLiteral("sh -c true"));
-        QCOMPARE(services.calls().value(0), QStringLiteral("start %1 [-c, true] in %2")
-                                                .arg(shell, QFileInfo(shell).absolutePath()));
+        QCOMPARE(services.calls().value(0),
+                 QStringLiteral("start %1 [-c, true] in %2").arg(shell, QFileInfo(shell).absolutePath()));
     }
 
     void shouldOpenWebsites_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("opened");
-        QTest::newRow("bare host") << "example.org" << "http://example.org";
-        QTest::newRow("with scheme") << "https://example.org/a?b=c" << "https://example.org/a?b=c";
-        QTest::newRow("host and port") << "localhost:8080" << "http://localhost:8080";
-        QTest::newRow("mail") << "mailto:someone@example.org" << "mailto:someone@example.org";
+        QTest::newRow("bare host") << "example.org"
+                                   << "http://example.org";
+        QTest::newRow("with scheme") << "https://example.org/a?b=c"
+                                     << "https://example.org/a?b=c";
+        QTest::newRow("host and port") << "localhost:8080"
+                                       << "http://localhost:8080";
+        QTest::newRow("mail") << "mailto:someone@example.org"
+                              << "mailto:someone@example.org";
     }
 
     void shouldOpenWebsites()
