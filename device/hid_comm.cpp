@@ -21,16 +21,18 @@ constexpr int EffectIconSize = 50;
 
 // Grid position -> key number in the image reports, per layout. The first
 // table runs to 15 entries; only the layout's key count of each is used.
+// clang-format off
 constexpr int DeviceKeyNumbers[6][32] = {
     {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
     {4, 1, 5, 2, 6, 3},
     {5, 4, 3, 2, 1, 10, 9, 8, 7, 6, 15, 14, 13, 12, 11},
     {1, 6, 11, 2, 7, 12, 3, 8, 13, 4, 9, 14, 5, 10, 15},
-    {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15, 16,
+    {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
      17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32},
-    {0,  1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15,
+    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,
      16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31},
 };
+// clang-format on
 
 std::atomic<bool> vendorLibraryInUse{false};
 
