@@ -6,6 +6,7 @@
 #include "favoritekeyitemmodel.h"
 #include "hid_comm.h"
 #include "ipc_thread.h"
+#include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
@@ -64,6 +65,9 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     m_windowSystem = WindowSystem::create();
     LOG_MSG(QStringLiteral("window system: %1").arg(m_windowSystem->name()));
 
+    // Key faces are also drawn on the key action thread; the title font is
+    // registered here first, before any thread draws text.
+    KeyFaceRenderer::ensureFontsLoaded();
     buildWindow();
     createModel();
     createDevice();
