@@ -20,6 +20,7 @@
 #include "titlebar.h"
 #include "trayicon.h"
 #include "updatedevicon.h"
+#include "virtualkey.h"
 #include "windowsystem.h"
 
 #include <QApplication>
@@ -64,6 +65,11 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 
     m_windowSystem = WindowSystem::create();
     LOG_MSG(QStringLiteral("window system: %1").arg(m_windowSystem->name()));
+    // Read on the typing thread at each keystroke: the native window is made
+    // again whenever its flags change.
+    VirtualKey::setWindowSystem(m_windowSystem.get(), [this] { return quint64(internalWinId()); });
+    connect(VirtualKey::instance(), &VirtualKey::keystrokesUnavailable, this,
+            [this](const QString& fix) { tellUser(tr("Hotkeys and macros cannot type keys."), fix); });
 
     // Key faces are also drawn on the key action thread; the title font is
     // registered here first, before any thread draws text.
@@ -91,6 +97,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 MainWindow::~MainWindow()
 {
     stopThreads();
+    VirtualKey::setWindowSystem(nullptr, nullptr);
     m_keyItemModel->flushPendingSave();
     if (m_settings)
         m_settings->sync();

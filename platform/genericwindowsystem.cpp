@@ -16,3 +16,18 @@ void GenericWindowSystem::activateWindow(QWindow* window)
     window->raise();
     window->requestActivate();
 }
+
+quint64 GenericWindowSystem::foregroundWindowId()
+{
+    return 0;
+}
+
+QString GenericWindowSystem::foregroundWindowTitle()
+{
+    return QString();
+}
+
+bool GenericWindowSystem::activateWindowId(quint64)
+{
+    return false;
+}

@@ -19,6 +19,15 @@ public:
     // another application is active.
     virtual void activateWindow(QWindow* window) = 0;
 
+    // The window in front, by its native id, and its title; 0 and empty
+    // when the desktop does not tell. Callable from any thread.
+    virtual quint64 foregroundWindowId() = 0;
+    virtual QString foregroundWindowTitle() = 0;
+    // Asks for the window of a native id to come to the front, as the
+    // user's own request; false when the desktop offers no way to ask.
+    // Callable from any thread.
+    virtual bool activateWindowId(quint64 windowId) = 0;
+
     // The implementation for the running Qt platform.
     static std::unique_ptr<WindowSystem> create();
 };

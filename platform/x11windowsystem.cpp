@@ -1,5 +1,6 @@
 #include "x11windowsystem.h"
 
+#include <QByteArray>
 #include <QWindow>
 #include <QX11Info>
 
@@ -21,8 +22,54 @@ xcb_atom_t internAtom(xcb_connection_t* connection, const char* name)
 }
 
 // Source indication 2: the request comes from a pager or similar tool acting
-// for the user, which is what a second start asking us to come forward is.
+// for the user, which is what a second start asking us to come forward is,
+// and a window given back the focus it had before a keystroke.
 constexpr uint32_t SourcePager = 2;
+
+// The _NET_ACTIVE_WINDOW request a pager sends for the user.
+bool sendActivation(xcb_window_t window, xcb_timestamp_t timestamp)
+{
+    xcb_connection_t* connection = QX11Info::connection();
+    if (!connection)
+        return false;
+    const xcb_atom_t activeAtom = internAtom(connection, "_NET_ACTIVE_WINDOW");
+    if (activeAtom == XCB_ATOM_NONE)
+        return false;
+
+    xcb_client_message_event_t event;
+    std::memset(&event, 0, sizeof event);
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = activeAtom;
+    event.data.data32[0] = SourcePager;
+    event.data.data32[1] = timestamp;
+    event.data.data32[2] = XCB_WINDOW_NONE;
+
+    const xcb_window_t root = xcb_window_t(QX11Info::appRootWindow());
+    xcb_send_event(connection, 0, root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+    xcb_flush(connection);
+    return true;
+}
+
+// A text property of a window; null when the window lacks it or it has
+// another type. 4096 bytes hold any title worth comparing.
+QByteArray textProperty(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property, xcb_atom_t type)
+{
+    if (property == XCB_ATOM_NONE || type == XCB_ATOM_NONE)
+        return QByteArray();
+    xcb_get_property_cookie_t cookie = xcb_get_property(connection, 0, window, property, type, 0, 1024);
+    xcb_get_property_reply_t* reply = xcb_get_property_reply(connection, cookie, nullptr);
+    if (!reply)
+        return QByteArray();
+    QByteArray text;
+    if (reply->type == type && reply->format == 8)
+        text =
+            QByteArray(static_cast<const char*>(xcb_get_property_value(reply)), xcb_get_property_value_length(reply));
+    std::free(reply);
+    return text;
+}
 
 } // namespace
 
@@ -37,28 +84,29 @@ void X11WindowSystem::activateWindow(QWindow* window)
         return;
     window->raise();
     window->requestActivate();
+    if (QX11Info::isPlatformX11())
+        sendActivation(xcb_window_t(window->winId()), QX11Info::getTimestamp());
+}
 
-    xcb_connection_t* connection = QX11Info::connection();
-    if (!connection || !QX11Info::isPlatformX11())
-        return;
-    const xcb_atom_t activeAtom = internAtom(connection, "_NET_ACTIVE_WINDOW");
-    if (activeAtom == XCB_ATOM_NONE)
-        return;
+quint64 X11WindowSystem::foregroundWindowId()
+{
+    return activeWindowId();
+}
 
-    xcb_client_message_event_t event;
-    std::memset(&event, 0, sizeof event);
-    event.response_type = XCB_CLIENT_MESSAGE;
-    event.format = 32;
-    event.window = xcb_window_t(window->winId());
-    event.type = activeAtom;
-    event.data.data32[0] = SourcePager;
-    event.data.data32[1] = QX11Info::getTimestamp();
-    event.data.data32[2] = XCB_WINDOW_NONE;
+QString X11WindowSystem::foregroundWindowTitle()
+{
+    const quint32 window = activeWindowId();
+    return window != 0 ? windowTitle(window) : QString();
+}
 
-    const xcb_window_t root = xcb_window_t(QX11Info::appRootWindow());
-    xcb_send_event(connection, 0, root, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                   reinterpret_cast<const char*>(&event));
-    xcb_flush(connection);
+// Off the GUI thread no fresh server time can be had (Qt reads it from its
+// own event queue); the pager source indication makes the current time
+// acceptable to window managers.
+bool X11WindowSystem::activateWindowId(quint64 windowId)
+{
+    if (windowId == 0 || windowId > 0xffffffffu || !QX11Info::isPlatformX11())
+        return false;
+    return sendActivation(xcb_window_t(windowId), XCB_CURRENT_TIME);
 }
 
 quint32 X11WindowSystem::activeWindowId()
@@ -79,4 +127,16 @@ quint32 X11WindowSystem::activeWindowId()
         id = *static_cast<const quint32*>(xcb_get_property_value(reply));
     std::free(reply);
     return id;
+}
+
+QString X11WindowSystem::windowTitle(quint32 windowId)
+{
+    xcb_connection_t* connection = QX11Info::connection();
+    if (!connection || !QX11Info::isPlatformX11() || windowId == 0)
+        return QString();
+    const QByteArray utf8 = textProperty(connection, windowId, internAtom(connection, "_NET_WM_NAME"),
+                                         internAtom(connection, "UTF8_STRING"));
+    if (!utf8.isNull())
+        return QString::fromUtf8(utf8);
+    return QString::fromLatin1(textProperty(connection, windowId, XCB_ATOM_WM_NAME, XCB_ATOM_STRING));
 }

@@ -10,8 +10,15 @@ class X11WindowSystem : public WindowSystem
 public:
     QString name() const override;
     void activateWindow(QWindow* window) override;
+    quint64 foregroundWindowId() override;
+    // _NET_WM_NAME, or WM_NAME for clients that set only the old property.
+    QString foregroundWindowTitle() override;
+    bool activateWindowId(quint64 windowId) override;
 
     // The window the window manager reports as active (_NET_ACTIVE_WINDOW on
     // the root window); 0 when unknown.
     static quint32 activeWindowId();
+
+    // The title a client gave its window; empty when it gave none.
+    static QString windowTitle(quint32 windowId);
 };

@@ -5,6 +5,11 @@
 
 #include <QWidget>
 
+#include <QX11Info>
+#include <cstring>
+#include <thread>
+#include <xcb/xcb.h>
+
 class X11WindowSystemTest : public QObject
 {
     Q_OBJECT
@@ -36,6 +41,68 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(X11WindowSystem::activeWindowId(), quint32(ours.winId()), 30000);
         QTRY_VERIFY_WITH_TIMEOUT(ours.isActiveWindow(), 30000);
     }
+
+    void shouldReadTheTitleOfTheWindowInFront()
+    {
+        const QString title = QStringLiteral("Grüße – XSplit Broadcaster");
+        QWidget window;
+        window.setWindowTitle(title);
+        window.resize(200, 150);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.activateWindow();
+        auto windowSystem = WindowSystem::create();
+        QTRY_COMPARE_WITH_TIMEOUT(windowSystem->foregroundWindowId(), quint64(window.winId()), 30000);
+        QCOMPARE(windowSystem->foregroundWindowTitle(), title);
+    }
+
+    // Old clients name their windows with WM_NAME only.
+    void shouldFallBackToTheOldTitleProperty()
+    {
+        xcb_connection_t* connection = QX11Info::connection();
+        const xcb_window_t window = xcb_generate_id(connection);
+        xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, xcb_window_t(QX11Info::appRootWindow()), 0, 0, 200,
+                          150, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+        const char title[] = "plain old title";
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
+                            uint32_t(std::strlen(title)), title);
+        xcb_map_window(connection, window);
+        xcb_flush(connection);
+
+        auto windowSystem = WindowSystem::create();
+        QTRY_VERIFY_WITH_TIMEOUT(windowSystem->activateWindowId(window) && windowSystem->foregroundWindowId() == window,
+                                 30000);
+        QCOMPARE(windowSystem->foregroundWindowTitle(), QStringLiteral("plain old title"));
+        xcb_destroy_window(connection, window);
+        xcb_flush(connection);
+    }
+
+    // Keystrokes run on their own thread and give the focus back from there.
+    void shouldActivateAWindowByIdFromAnotherThread()
+    {
+        QWidget ours;
+        ours.setWindowTitle(QStringLiteral("ours"));
+        ours.resize(200, 150);
+        ours.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&ours));
+        QWidget other;
+        other.setWindowTitle(QStringLiteral("other"));
+        other.resize(200, 150);
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        other.activateWindow();
+        auto windowSystem = WindowSystem::create();
+        QTRY_COMPARE_WITH_TIMEOUT(windowSystem->foregroundWindowId(), quint64(other.winId()), 30000);
+
+        bool sent = false;
+        const quint64 id = ours.winId();
+        std::thread([&] { sent = windowSystem->activateWindowId(id); }).join();
+        QVERIFY(sent);
+        QTRY_COMPARE_WITH_TIMEOUT(windowSystem->foregroundWindowId(), id, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(ours.isActiveWindow(), 30000);
+    }
+
+    void shouldRefuseToActivateNoWindow() { QVERIFY(!WindowSystem::create()->activateWindowId(0)); }
 };
 
 KEYSTAGE_TEST_MAIN(X11WindowSystemTest)

@@ -1,0 +1,3 @@
+#include "uinputdevice.h"
+
+UinputDevice::~UinputDevice() = default;

@@ -1,0 +1,178 @@
+#include "virtualkey.h"
+
+#include "keystrokebackend.h"
+#include "logging.h"
+#include "virtualkeytable.h"
+#include "windowsystem.h"
+
+#include <QDebug>
+#include <QMutex>
+#include <QThread>
+#include <QVector>
+
+#include <memory>
+
+namespace {
+
+// While this broadcasting program is in front, synthetic keys do not reach
+// the program the user meant; they are typed with our main window in front.
+const QString BroadcasterTitle = QStringLiteral("XSplit Broadcaster");
+constexpr int ForegroundChecks = 5;
+constexpr int ForegroundCheckMs = 100;
+
+// One lock for the backend choice and for typing, so that chords from
+// several threads never interleave.
+QMutex typingMutex;
+std::unique_ptr<KeystrokeBackend> chosenBackend;
+KeystrokeBackend* setBackendPointer = nullptr;
+WindowSystem* windowSystem = nullptr;
+std::function<quint64()> mainWindowId;
+bool userTold = false;
+
+KeystrokeBackend* currentBackend()
+{
+    if (setBackendPointer)
+        return setBackendPointer;
+    if (!chosenBackend)
+        chosenBackend = KeystrokeBackend::create();
+    return chosenBackend.get();
+}
+
+void tellUser()
+{
+    emit VirtualKey::instance()->keystrokesUnavailable(KeystrokeBackend::fixText());
+}
+
+// Under the typing lock: the backend to type with, or null when none is
+// usable, after unlocking and telling the user the first time (unlocked, so
+// a directly connected receiver may call back in).
+KeystrokeBackend* usableBackend(QMutexLocker& lock)
+{
+    KeystrokeBackend* backend = currentBackend();
+    if (backend->isUsable())
+        return backend;
+    const bool news = !userTold;
+    if (news) {
+        LOG_MSG(QStringLiteral("ERROR: keystrokes cannot be sent through %1: %2!!")
+                    .arg(backend->name(), backend->unusableReason()));
+        userTold = true;
+    }
+    lock.unlock();
+    if (news)
+        tellUser();
+    return nullptr;
+}
+
+void makeForeground(quint64 windowId)
+{
+    windowSystem->activateWindowId(windowId);
+    for (int i = 0; i < ForegroundChecks && windowSystem->foregroundWindowId() != windowId; ++i)
+        QThread::msleep(ForegroundCheckMs);
+}
+
+// The window to give the foreground back to afterwards; 0 when the rule
+// does not apply.
+quint64 moveAwayFromBroadcaster()
+{
+    if (!windowSystem || !mainWindowId || windowSystem->foregroundWindowTitle() != BroadcasterTitle)
+        return 0;
+    const quint64 mainWindow = mainWindowId();
+    const quint64 previous = windowSystem->foregroundWindowId();
+    if (mainWindow == 0 || previous == mainWindow)
+        return 0;
+    LOG_MSG(QStringLiteral("keystroke with %1 in front: main window brought forward").arg(BroadcasterTitle));
+    makeForeground(mainWindow);
+    return previous;
+}
+
+void typeChord(KeystrokeBackend* backend, const QVector<int>& keys)
+{
+    QVector<int> down;
+    for (int key : keys) {
+        if (backend->keyDown(key))
+            down.append(key);
+    }
+    QThread::msleep(VirtualKey::PauseMs);
+    // Only what went down comes up, so a refused key leaves nothing stuck.
+    for (auto it = down.crbegin(); it != down.crend(); ++it)
+        backend->keyUp(*it);
+}
+
+void playSteps(KeystrokeBackend* backend, const QList<MarcoKeyItem>& steps)
+{
+    for (const MarcoKeyItem& step : steps) {
+        const int key = step.nativeKeyCode;
+        if (!logMsgWhenRetFail(VirtualKeyTable::contains(key),
+                               QStringLiteral("macro step with unknown virtual key %1 skipped!!").arg(key)))
+            continue;
+        if (step.isPress)
+            backend->keyDown(key);
+        else
+            backend->keyUp(key);
+        qDebug().noquote() << QStringLiteral("press: %1 %2").arg(key).arg(step.isPress ? 0 : VirtualKey::KeyUpFlag);
+        QThread::msleep(VirtualKey::PauseMs);
+    }
+}
+
+} // namespace
+
+void VirtualKey::sendKeyEvent(int nativeKey, bool win, bool alt, bool ctrl, bool shift)
+{
+    if (!logMsgWhenRetFail(VirtualKeyTable::contains(nativeKey),
+                           QStringLiteral("hotkey with unknown virtual key %1 not sent!!").arg(nativeKey)))
+        return;
+    QMutexLocker lock(&typingMutex);
+    KeystrokeBackend* backend = usableBackend(lock);
+    if (!backend)
+        return;
+
+    const quint64 previousForeground = moveAwayFromBroadcaster();
+    QVector<int> keys;
+    if (win)
+        keys.append(WindowsKey);
+    if (alt)
+        keys.append(AltKey);
+    if (ctrl)
+        keys.append(ControlKey);
+    if (shift)
+        keys.append(ShiftKey);
+    keys.append(nativeKey);
+    typeChord(backend, keys);
+    if (previousForeground != 0)
+        makeForeground(previousForeground);
+}
+
+void VirtualKey::sendMacroKeyEvent(QList<MarcoKeyItem> steps)
+{
+    QMutexLocker lock(&typingMutex);
+    KeystrokeBackend* backend = usableBackend(lock);
+    if (backend)
+        playSteps(backend, steps);
+}
+
+void VirtualKey::setBackend(KeystrokeBackend* backend)
+{
+    QMutexLocker lock(&typingMutex);
+    setBackendPointer = backend;
+    // Another backend is news of its own.
+    userTold = false;
+}
+
+void VirtualKey::setWindowSystem(WindowSystem* system, std::function<quint64()> windowId)
+{
+    QMutexLocker lock(&typingMutex);
+    windowSystem = system;
+    mainWindowId = std::move(windowId);
+}
+
+bool VirtualKey::checkAvailable()
+{
+    QMutexLocker lock(&typingMutex);
+    return usableBackend(lock) != nullptr;
+}
+
+VirtualKey* VirtualKey::instance()
+{
+    static VirtualKey notifier;
+    return &notifier;
+}

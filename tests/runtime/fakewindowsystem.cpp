@@ -1,0 +1,57 @@
+#include "fakewindowsystem.h"
+
+#include <chrono>
+
+void FakeWindowSystem::setForeground(quint64 windowId, const QString& title)
+{
+    QMutexLocker lock(&m_mutex);
+    m_foreground = windowId;
+    m_titles.insert(windowId, title);
+}
+
+void FakeWindowSystem::setTitle(quint64 windowId, const QString& title)
+{
+    QMutexLocker lock(&m_mutex);
+    m_titles.insert(windowId, title);
+}
+
+void FakeWindowSystem::setObeysActivation(bool obeys)
+{
+    QMutexLocker lock(&m_mutex);
+    m_obeys = obeys;
+}
+
+QVector<FakeWindowSystem::Activation> FakeWindowSystem::activations() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_activations;
+}
+
+QString FakeWindowSystem::name() const
+{
+    return QStringLiteral("fake");
+}
+
+void FakeWindowSystem::activateWindow(QWindow*) {}
+
+quint64 FakeWindowSystem::foregroundWindowId()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_foreground;
+}
+
+QString FakeWindowSystem::foregroundWindowTitle()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_titles.value(m_foreground);
+}
+
+bool FakeWindowSystem::activateWindowId(quint64 windowId)
+{
+    QMutexLocker lock(&m_mutex);
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    m_activations.append({windowId, std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()});
+    if (m_obeys)
+        m_foreground = windowId;
+    return true;
+}

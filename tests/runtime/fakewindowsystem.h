@@ -1,0 +1,37 @@
+#pragma once
+
+#include "windowsystem.h"
+
+#include <QHash>
+#include <QMutex>
+#include <QVector>
+
+// A desktop of numbered windows whose foreground window follows activation
+// requests (or ignores them, like a window manager that refuses).
+class FakeWindowSystem : public WindowSystem
+{
+public:
+    struct Activation
+    {
+        quint64 windowId;
+        qint64 monotonicNs; // steady clock, comparable with recorded keystrokes
+    };
+
+    void setForeground(quint64 windowId, const QString& title);
+    void setTitle(quint64 windowId, const QString& title);
+    void setObeysActivation(bool obeys);
+    QVector<Activation> activations() const;
+
+    QString name() const override;
+    void activateWindow(QWindow* window) override;
+    quint64 foregroundWindowId() override;
+    QString foregroundWindowTitle() override;
+    bool activateWindowId(quint64 windowId) override;
+
+private:
+    mutable QMutex m_mutex;
+    quint64 m_foreground = 0;
+    QHash<quint64, QString> m_titles;
+    bool m_obeys = true;
+    QVector<Activation> m_activations;
+};
