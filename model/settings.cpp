@@ -2,6 +2,7 @@
 
 #include "buttonlayoutconfig.h"
 #include "logging.h"
+#include "settingsfilewriter.h"
 #include "settingskeys.h"
 
 #include <QBuffer>
@@ -13,11 +14,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QPixmap>
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <QTemporaryFile>
+#include <QThread>
 
 #include <exception>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -28,6 +32,103 @@ const QString Application = QStringLiteral("Keystage");
 // The leaf walker below knows the QDataStream layout of this version only.
 static_assert(QDataStream::Qt_DefaultCompiledVersion == QDataStream::Qt_5_15,
               "check the QFont and QImage layouts in BoundedMapReader for the new stream version");
+
+// The checksum is over the stream form at QDataStream's default version.
+constexpr QDataStream::Version ChecksumVersion = QDataStream::Qt_DefaultCompiledVersion;
+
+void forEachPixmap(const QVariant& value, const std::function<void(const QPixmap&)>& visit)
+{
+    switch (value.userType()) {
+    case QMetaType::QVariantMap:
+        for (const QVariant& child : *static_cast<const QVariantMap*>(value.constData()))
+            forEachPixmap(child, visit);
+        break;
+    case QMetaType::QVariantList:
+        for (const QVariant& child : *static_cast<const QVariantList*>(value.constData()))
+            forEachPixmap(child, visit);
+        break;
+    case QMetaType::QPixmap:
+        visit(*static_cast<const QPixmap*>(value.constData()));
+        break;
+    default:
+        break;
+    }
+}
+
+// Keeps what QDataStream writes as a list of pieces: small writes gathered,
+// images shared with the cache rather than copied.
+class PieceDevice : public QIODevice
+{
+public:
+    PieceDevice() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+    bool isSequential() const override { return true; }
+
+    void addShared(const QByteArray& bytes)
+    {
+        takeChunk();
+        m_pieces.append(bytes);
+    }
+
+    QByteArrayList take()
+    {
+        takeChunk();
+        return std::exchange(m_pieces, QByteArrayList());
+    }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        m_chunk.append(data, int(size));
+        return size;
+    }
+
+private:
+    void takeChunk()
+    {
+        if (m_chunk.isEmpty())
+            return;
+        m_chunk.squeeze();
+        m_pieces.append(std::exchange(m_chunk, QByteArray()));
+    }
+
+    QByteArrayList m_pieces;
+    QByteArray m_chunk;
+};
+
+// Touches nothing but the bytes, so any thread may run it.
+QString md5Hex(const QByteArrayList& pieces)
+{
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    for (const QByteArray& piece : pieces)
+        hash.addData(piece);
+    return QString::fromLatin1(hash.result().toHex());
+}
+
+// The MD5 of the pieces, worked out on a thread of its own meanwhile.
+class BackgroundMd5
+{
+public:
+    explicit BackgroundMd5(QByteArrayList pieces)
+        : m_pieces(std::move(pieces)), m_thread(QThread::create([this] { m_result = md5Hex(m_pieces); }))
+    {
+        m_thread->start();
+    }
+    ~BackgroundMd5() { m_thread->wait(); }
+
+    QString result()
+    {
+        m_thread->wait();
+        if (m_result.isEmpty()) // no thread could be started
+            m_result = md5Hex(m_pieces);
+        return m_result;
+    }
+
+private:
+    const QByteArrayList m_pieces;
+    QString m_result;
+    const std::unique_ptr<QThread> m_thread;
+};
 
 QByteArray serialise(const QVariantMap& map)
 {
@@ -477,10 +578,12 @@ Settings::Settings(QObject* parent)
 {
     m_damagedCopyPath = std::exchange(setAsidePath, QString());
     QVariantMap stored = m_store.value(SettingsKeys::Inst).toMap();
+    rememberStoreFromQSettings();
     const QString storedChecksum = stored.take(SettingsKeys::ChecksumTag).toString();
-    if (!storedChecksum.isEmpty() && storedChecksum == checksum(stored)) {
+    if (!storedChecksum.isEmpty() && storedChecksum == treeChecksum(stored, VariantStreamWriter::Form::InMemory)) {
         m_tree = stored;
         LOG_MSG(QStringLiteral("Load success!"));
+        primeImageCache(stored, storedChecksum);
         return;
     }
     LOG_MSG(QStringLiteral("Load checkSum err, reset settings!"));
@@ -614,50 +717,113 @@ bool Settings::save()
         m_tree.insert(SettingsKeys::SettingsVersion, QString(Version));
         stored = m_tree;
     }
-    stored.insert(SettingsKeys::ChecksumTag, checksum(stored));
-    m_store.setValue(SettingsKeys::Inst, stored);
-    m_store.sync();
-
-    // The backend does not store every value as it was given (QSettings
-    // streams them in an old QDataStream version, which drops font details,
-    // for one), and the next start checks what it reads. So the checksum that
-    // stays on disk is computed over what was actually stored.
-    QVariantMap readBack;
-    if (!readStoredTree(&readBack)) {
-        LOG_MSG(QStringLiteral("ERROR: Cannot read back %1, its checksum may not match!!").arg(m_store.fileName()));
-        return m_store.status() == QSettings::NoError;
+    bool written = false;
+    {
+        // QSettings does not store every value as it was given (it streams
+        // them in an old QDataStream version, which drops font details, for
+        // one), and the next start checks what it reads. So the checksum
+        // that goes to disk is computed over what will be read back, not
+        // over the tree in memory. The file needs it only near its end.
+        BackgroundMd5 checksum(streamPieces(stored, VariantStreamWriter::Form::ReadBackFromSettingsFile));
+        written = storeFileIsAsLastSeen() ? writeStoreDirectly(stored, [&checksum] { return checksum.result(); })
+                                          : writeStoreThroughQSettings(stored, checksum.result());
     }
-    readBack.remove(SettingsKeys::ChecksumTag);
-    readBack.insert(SettingsKeys::ChecksumTag, checksum(readBack));
-    m_store.setValue(SettingsKeys::Inst, readBack);
-    m_store.sync();
-    if (m_store.status() != QSettings::NoError) {
-        LOG_MSG(QStringLiteral("ERROR: Cannot write %1!!").arg(m_store.fileName()));
+    // Images that left the tree leave the caches.
+    m_cache.dropUnused();
+    m_fileWriter.dropUnused();
+    return written;
+}
+
+bool Settings::writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum)
+{
+    stored.insert(SettingsKeys::ChecksumTag, QString()); // its place; the value comes when it is reached
+    const SettingsFileWriter::LateEntry late{SettingsKeys::ChecksumTag, [&checksum] { return QVariant(checksum()); }};
+    QString error;
+    if (!m_fileWriter.writeMapFile(m_store.fileName(), SettingsKeys::Inst, stored, late, m_otherStoredKeys, &m_cache,
+                                   &error)) {
+        LOG_MSG(QStringLiteral("ERROR: Cannot write %1: %2!!").arg(m_store.fileName(), error));
         return false;
     }
+    rememberStoreFileState();
     return true;
 }
 
-// QSettings objects of one process share a cache per file, so asking m_store
-// (or any other QSettings on the same path) would hand back the value just
-// set, not what the file holds. A private snapshot of the file is parsed instead.
-bool Settings::readStoredTree(QVariantMap* tree)
+// Someone else changed the file since the store saw it last: QSettings merges
+// those changes. It encodes every image again, so this is the slow way.
+bool Settings::writeStoreThroughQSettings(QVariantMap stored, const QString& checksum)
+{
+    LOG_MSG(QStringLiteral("%1 was changed by another writer, merging through QSettings.").arg(m_store.fileName()));
+    stored.insert(SettingsKeys::ChecksumTag, checksum);
+    m_store.setValue(SettingsKeys::Inst, stored);
+    m_store.sync();
+    if (m_store.status() != QSettings::NoError) {
+        LOG_MSG(QStringLiteral("ERROR: Cannot write %1!!").arg(m_store.fileName()));
+        m_lastSeenFile = StoreFileState();
+        return false;
+    }
+    rememberStoreFromQSettings();
+    return true;
+}
+
+// What QSettings would write for the stored tree and the other keys it holds.
+SettingsFileWriter::Content Settings::storeFileContent(const QVariantMap& stored)
+{
+    return m_fileWriter.fileContent(SettingsKeys::Inst, stored, m_otherStoredKeys, &m_cache);
+}
+
+// The keys besides "inst" as QSettings has them now, and the file they came
+// from. Only those of the file itself: m_store also shows the keys of the
+// organisation-wide and system-wide files, which QSettings never writes back.
+// A QSettings on the same path shares m_store's parsed copy of the file.
+void Settings::rememberStoreFromQSettings()
+{
+    m_otherStoredKeys.clear();
+    const QSettings file(m_store.fileName(), m_store.format());
+    const QStringList keys = file.allKeys();
+    for (const QString& key : keys) {
+        if (key != SettingsKeys::Inst)
+            m_otherStoredKeys.insert(key, file.value(key));
+    }
+    rememberStoreFileState();
+}
+
+void Settings::rememberStoreFileState()
 {
     const QFileInfo info(m_store.fileName());
+    m_lastSeenFile.known = info.exists();
+    m_lastSeenFile.size = info.size();
+    m_lastSeenFile.modified = info.lastModified();
+}
+
+bool Settings::storeFileIsAsLastSeen()
+{
+    const QFileInfo info(m_store.fileName());
+    if (!info.exists()) {
+        // QSettings, too, would write the tree alone.
+        m_otherStoredKeys.clear();
+        return true;
+    }
+    return m_lastSeenFile.known && info.size() == m_lastSeenFile.size && info.lastModified() == m_lastSeenFile.modified;
+}
+
+// Every image just loaded was encoded for the checksum. Whether a reader of
+// those bytes gets the same image again is known for certain only by decoding
+// each one once more, which would make the first save after a start nearly as
+// slow as the load. But when the file holds exactly what a save would write
+// now, each image in the file is the very encoding the checksum just made of
+// the image read from it: a reader gets that image, and those bytes, again.
+void Settings::primeImageCache(const QVariantMap& stored, const QString& storedChecksum)
+{
+    QVariantMap withChecksum = stored;
+    withChecksum.insert(SettingsKeys::ChecksumTag, storedChecksum);
     bool readable = false;
-    const QByteArray bytes = readWholeFile(info.absoluteFilePath(), &readable);
-    if (!readable)
-        return false;
-    QTemporaryFile snapshot(info.absoluteFilePath() + QStringLiteral(".readback-XXXXXX"));
-    if (!snapshot.open() || snapshot.write(bytes) != bytes.size() || !snapshot.flush())
-        return false;
-    snapshot.close();
-    QSettings stored(snapshot.fileName(), m_store.format());
-    const QVariant value = stored.value(SettingsKeys::Inst);
-    if (stored.status() != QSettings::NoError || !hasType(value, QMetaType::QVariantMap))
-        return false;
-    *tree = value.toMap();
-    return true;
+    const QByteArray onDisk = readWholeFile(m_store.fileName(), &readable);
+    if (!readable || !SettingsFileWriter::holds(storeFileContent(withChecksum), onDisk)) {
+        LOG_MSG(QStringLiteral("%1 was written differently; the next save encodes its images once more.")
+                    .arg(m_store.fileName()));
+        return;
+    }
+    forEachPixmap(stored, [this](const QPixmap& pixmap) { m_cache.markReloadStable(pixmap); });
 }
 
 QString Settings::checksum(const QVariantMap& map)
@@ -673,17 +839,54 @@ QString Settings::checksum(const QVariantMap& map)
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
 }
 
+QString Settings::checksumAsReadBack(const QVariantMap& map) const
+{
+    return treeChecksum(map, VariantStreamWriter::Form::ReadBackFromSettingsFile);
+}
+
+int Settings::cachedImageCount() const
+{
+    return m_cache.imageCount();
+}
+
+QString Settings::treeChecksum(const QVariantMap& map, VariantStreamWriter::Form form) const
+{
+    return md5Hex(streamPieces(map, form));
+}
+
+// The map without its checksum entry, in the stream form the checksum is computed over.
+QByteArrayList Settings::streamPieces(const QVariantMap& map, VariantStreamWriter::Form form) const
+{
+    QVariantMap withoutTag = map;
+    withoutTag.remove(SettingsKeys::ChecksumTag);
+    PieceDevice device;
+    QDataStream stream(&device);
+    stream.setVersion(ChecksumVersion);
+    VariantStreamWriter writer(&stream, &m_cache, form);
+    writer.setImageWriter([&device](const QPixmap&, const QByteArray& bytes) { device.addShared(bytes); });
+    writer.write(withoutTag);
+    return device.take();
+}
+
 QByteArray Settings::encodeExportFile(const QString& contentKey, const QVariantMap& content)
 {
+    EncodingCache cache;
+    return encodeExportFile(contentKey, content, &cache);
+}
+
+QByteArray Settings::encodeExportFile(const QString& contentKey, const QVariantMap& content, EncodingCache* cache)
+{
     QVariantMap file{{contentKey, content}};
-    file.insert(SettingsKeys::ChecksumTag, checksum(file));
-    return serialise(file);
+    const QByteArray checked = VariantStreamWriter::serialise(file, ChecksumVersion, cache);
+    file.insert(SettingsKeys::ChecksumTag,
+                QString::fromLatin1(QCryptographicHash::hash(checked, QCryptographicHash::Md5).toHex()));
+    return VariantStreamWriter::serialise(file, ChecksumVersion, cache);
 }
 
 bool Settings::exportMyFavorite(const QString& fileName) const
 {
     const QVariantMap favorites = value(SettingsKeys::MyFavoriteItems).toMap();
-    switch (writeAtomically(fileName, encodeExportFile(SettingsKeys::MyFavorite, favorites))) {
+    switch (writeAtomically(fileName, encodeExportFile(SettingsKeys::MyFavorite, favorites, &m_cache))) {
     case WriteResult::Written:
         return true;
     case WriteResult::OpenFailed:
@@ -706,7 +909,7 @@ bool Settings::exportSetting(const QString& fileName) const
             return false;
         layoutPages = m_tree.value(SettingsKeys::keyItemsKey(ButtonLayoutConfig::layoutName(layout))).toMap();
     }
-    switch (writeAtomically(fileName, encodeExportFile(SettingsKeys::MyLayout, layoutPages))) {
+    switch (writeAtomically(fileName, encodeExportFile(SettingsKeys::MyLayout, layoutPages, &m_cache))) {
     case WriteResult::Written:
         return true;
     case WriteResult::OpenFailed:

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "encodingcache.h"
+#include "settingsfilewriter.h"
 #include "settingskeys.h"
+#include "variantstreamwriter.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
+#include <QDateTime>
 #include <QLatin1String>
 #include <QMutex>
 #include <QObject>
@@ -16,6 +21,15 @@
 // The whole persistent configuration of the program: one QVariantMap tree,
 // stored as the single value "inst" of Keystage.conf together with an MD5
 // checksum, plus the export files of a layout and of the favourites.
+//
+// Saving: QSettings reads the file, but the store writes it itself, byte for
+// byte as QSettings would, because QSettings compresses every key image again
+// on every save (seconds for a large tree). Encoded images and their escaped
+// text are kept from save to save (EncodingCache, SettingsFileWriter). The
+// checksum stored is the one the next start computes over what QSettings
+// reads back, worked out without reading the file back. When someone else
+// changed the file since the store last wrote or read it, QSettings writes
+// it and merges those changes.
 //
 // The tree may be read and changed from any thread; disk access (the
 // constructor, save, export and import) belongs to the GUI thread.
@@ -113,6 +127,12 @@ public:
 
     // MD5 (lower-case hex) of the map's QDataStream form, without any "CHKSUM_TAG" entry.
     static QString checksum(const QVariantMap& map);
+    // The same over the values QSettings hands back after storing this map,
+    // as the next start computes it: fonts lose what QSettings' stream form
+    // has no room for, images come back decoded.
+    QString checksumAsReadBack(const QVariantMap& map) const;
+    // Encoded images kept for the next save.
+    int cachedImageCount() const;
 
     // The bytes of an export file: the map {contentKey: content} with its checksum.
     static QByteArray encodeExportFile(const QString& contentKey, const QVariantMap& content);
@@ -135,9 +155,25 @@ signals:
     void myFavoriteImported(const QVariantMap& favorites);
 
 private:
+    struct StoreFileState
+    {
+        bool known = false;
+        qint64 size = 0;
+        QDateTime modified;
+    };
+
     QVariantMap defaultTree() const;
     void keepDamagedCopy();
-    bool readStoredTree(QVariantMap* tree);
+    QString treeChecksum(const QVariantMap& map, VariantStreamWriter::Form form) const;
+    QByteArrayList streamPieces(const QVariantMap& map, VariantStreamWriter::Form form) const;
+    static QByteArray encodeExportFile(const QString& contentKey, const QVariantMap& content, EncodingCache* cache);
+    SettingsFileWriter::Content storeFileContent(const QVariantMap& stored);
+    bool storeFileIsAsLastSeen();
+    void rememberStoreFromQSettings();
+    void rememberStoreFileState();
+    void primeImageCache(const QVariantMap& stored, const QString& storedChecksum);
+    bool writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum);
+    bool writeStoreThroughQSettings(QVariantMap stored, const QString& checksum);
 
     mutable QMutex m_treeMutex;
     QVariantMap m_tree;
@@ -148,4 +184,12 @@ private:
     mutable QMutex m_storeMutex;
     QSettings m_store;
     QString m_damagedCopyPath;
+    // Keys of the file other than "inst", and the file as the store last
+    // wrote or read it: the store writes the file itself only while it
+    // knows everything in it.
+    QVariantMap m_otherStoredKeys;
+    StoreFileState m_lastSeenFile;
+
+    mutable EncodingCache m_cache;
+    SettingsFileWriter m_fileWriter;
 };

@@ -1,14 +1,17 @@
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "settings.h"
+#include "settingsfilewriter.h"
 #include "settingskeys.h"
 #include "testmain.h"
 
+#include <QBuffer>
 #include <QDataStream>
 #include <QDate>
 #include <QDir>
 #include <QFont>
 #include <QImage>
+#include <QImageWriter>
 #include <QPainter>
 #include <QPixmap>
 #include <QRandomGenerator>
@@ -88,6 +91,34 @@ QVariantMap storedTreeOnDisk()
         return QVariantMap();
     QSettings settings(copy, QSettings::IniFormat);
     return settings.value(SettingsKeys::Inst).toMap();
+}
+
+// The file QSettings writes for "inst" = the tree with the checksum, in a file of its own.
+QByteArray writtenByQSettings(const QVariantMap& stored)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("expected.conf"));
+    {
+        QSettings settings(path, QSettings::NativeFormat);
+        settings.setValue(SettingsKeys::Inst, stored);
+        settings.sync();
+    }
+    return readFile(path);
+}
+
+QVariantMap withChecksumOnDisk(QVariantMap tree)
+{
+    tree.insert(SettingsKeys::ChecksumTag, storedTreeOnDisk().value(SettingsKeys::ChecksumTag));
+    return tree;
+}
+
+QVariant diskValue(const QString& key)
+{
+    QTemporaryDir dir;
+    const QString copy = dir.filePath(QStringLiteral("copy.conf"));
+    if (!QFile::copy(confPath(), copy))
+        return QVariant();
+    return QSettings(copy, QSettings::IniFormat).value(key);
 }
 
 QPixmap semiTransparentPixmap()
@@ -278,6 +309,222 @@ private slots:
         Settings reloaded;
         QCOMPARE(capture.messages().count(LoadSuccess), 1);
         QCOMPARE(reloaded.value(QStringLiteral("font")).value<QFont>().pointSize(), 13);
+    }
+
+    // --- the file as QSettings would write it ---
+
+    void shouldWriteTheFileQSettingsWouldWrite()
+    {
+        Settings settings;
+        settings.setValue(QStringLiteral("font"), styledFont());
+        settings.setValue(QStringLiteral("image"), semiTransparentPixmap());
+        settings.setValue(SettingsKeys::MyFavoriteItems, keyList(QStringLiteral("favourite")));
+        QVERIFY(settings.save());
+        const QByteArray first = readFile(confPath());
+        QCOMPARE(first, writtenByQSettings(withChecksumOnDisk(settings.tree())));
+        // The second save takes everything from what the first one kept.
+        QVERIFY(settings.save());
+        QCOMPARE(readFile(confPath()), first);
+    }
+
+    // The store used to let QSettings write the tree, read it back, and write
+    // what it read with a checksum over that. It writes the same file now.
+    void shouldWriteWhatWritingTwiceThroughQSettingsWrote()
+    {
+        Settings settings;
+        settings.setValue(QStringLiteral("font"), styledFont());
+        settings.setValue(QStringLiteral("image"), semiTransparentPixmap());
+        settings.setValue(SettingsKeys::MyFavoriteItems, keyList(QStringLiteral("favourite")));
+        QVERIFY(settings.save());
+
+        QVariantMap tree = settings.tree();
+        tree.insert(SettingsKeys::ChecksumTag, Settings::checksum(tree));
+        QTemporaryDir dir;
+        const QString first = dir.filePath(QStringLiteral("first.conf"));
+        {
+            QSettings store(first, QSettings::NativeFormat);
+            store.setValue(SettingsKeys::Inst, tree);
+        }
+        // A copy: QSettings would hand back its own cached values for the same path.
+        const QString copy = dir.filePath(QStringLiteral("copy.conf"));
+        QVERIFY(QFile::copy(first, copy));
+        QVariantMap readBack = QSettings(copy, QSettings::NativeFormat).value(SettingsKeys::Inst).toMap();
+        QVERIFY(readBack.value(QStringLiteral("font")).value<QFont>().styleName().isEmpty());
+        readBack.insert(SettingsKeys::ChecksumTag, Settings::checksum(readBack));
+        QCOMPARE(readFile(confPath()), writtenByQSettings(readBack));
+    }
+
+    void shouldWriteTheSameFileAfterAStartWhenNothingChanged()
+    {
+        {
+            Settings settings;
+            settings.setValue(SettingsKeys::MyFavoriteItems, keyList(QStringLiteral("favourite")));
+            settings.setValue(
+                QStringLiteral("opaque"),
+                QPixmap::fromImage(semiTransparentPixmap().toImage().convertToFormat(QImage::Format_RGB32)));
+            QVERIFY(settings.save());
+        }
+        const QByteArray saved = readFile(confPath());
+        makeCachedSettingsStale();
+        Settings reloaded;
+        QVERIFY(reloaded.save());
+        QCOMPARE(readFile(confPath()), saved);
+        makeCachedSettingsStale();
+        LogCapture capture;
+        Settings again;
+        QCOMPARE(capture.messages().count(LoadSuccess), 1);
+    }
+
+    void shouldStoreAnImageChangedSinceTheLastSave()
+    {
+        QPixmap image = semiTransparentPixmap();
+        Settings settings;
+        settings.setValue(QStringLiteral("image"), image);
+        QVERIFY(settings.save());
+        image.fill(QColor(1, 2, 3));
+        settings.setValue(QStringLiteral("image"), image);
+        QVERIFY(settings.save());
+        QCOMPARE(readFile(confPath()), writtenByQSettings(withChecksumOnDisk(settings.tree())));
+
+        makeCachedSettingsStale();
+        LogCapture capture;
+        Settings reloaded;
+        QCOMPARE(capture.messages().count(LoadSuccess), 1);
+        QCOMPARE(reloaded.value(QStringLiteral("image")).value<QPixmap>().toImage().pixel(2, 2), qRgb(1, 2, 3));
+    }
+
+    // Written by another program: the images are no PNG files that Qt itself
+    // would make, so the next start encodes them differently from the file.
+    void shouldLoadAndSaveImagesThatQtWouldEncodeDifferently()
+    {
+        QByteArray png;
+        {
+            QBuffer buffer(&png);
+            buffer.open(QIODevice::WriteOnly);
+            QImageWriter writer(&buffer, "png");
+            writer.setQuality(100); // no compression
+            QVERIFY(writer.write(semiTransparentPixmap().toImage()));
+        }
+        const QPixmap image = QPixmap::fromImage(QImage::fromData(png, "png"));
+        QVariantMap stored{{SettingsKeys::SettingsVersion, QStringLiteral("1.3")}, {QStringLiteral("image"), image}};
+        stored.insert(SettingsKeys::ChecksumTag, Settings::checksum(stored));
+        QByteArray variant;
+        {
+            QDataStream stream(&variant, QIODevice::WriteOnly);
+            stream.setVersion(SettingsFileWriter::StreamVersion);
+            stream << QVariant(stored);
+        }
+        QByteArray qtPng;
+        {
+            QBuffer buffer(&qtPng);
+            buffer.open(QIODevice::WriteOnly);
+            QVERIFY(QImageWriter(&buffer, "png").write(image.toImage()));
+        }
+        QVERIFY(png != qtPng);
+        QCOMPARE(variant.count(qtPng), 1);
+        variant.replace(qtPng, png);
+        QVERIFY(QDir().mkpath(QFileInfo(confPath()).absolutePath()));
+        QVERIFY(writeFile(confPath(),
+                          "[General]\ninst=" + SettingsFileWriter::escapedValue("@Variant(" + variant + ')') + '\n'));
+
+        {
+            LogCapture capture;
+            Settings settings;
+            QCOMPARE(capture.messages().count(LoadSuccess), 1);
+            QVERIFY(settings.save());
+            QCOMPARE(readFile(confPath()), writtenByQSettings(withChecksumOnDisk(settings.tree())));
+        }
+        makeCachedSettingsStale();
+        LogCapture capture;
+        Settings reloaded;
+        QCOMPARE(capture.messages().count(LoadSuccess), 1);
+        QCOMPARE(reloaded.value(QStringLiteral("image")).value<QPixmap>().toImage(), image.toImage());
+    }
+
+    void shouldKeepTheOtherKeysOfTheFile()
+    {
+        {
+            QSettings raw(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Vantorix"),
+                          QStringLiteral("Keystage"));
+            raw.setValue(QStringLiteral("lang_idx"), 2);
+            raw.setValue(QStringLiteral("window/pos"), QPoint(3, 4));
+            raw.sync();
+        }
+        makeCachedSettingsStale();
+        {
+            Settings settings;
+            settings.setValue(QStringLiteral("image"), semiTransparentPixmap());
+            QVERIFY(settings.save());
+            QVERIFY(settings.save());
+        }
+        QCOMPARE(diskValue(QStringLiteral("lang_idx")).toInt(), 2);
+        QCOMPARE(diskValue(QStringLiteral("window/pos")).toPoint(), QPoint(3, 4));
+        makeCachedSettingsStale();
+        LogCapture capture;
+        Settings reloaded;
+        QCOMPARE(capture.messages().count(LoadSuccess), 1);
+        QVERIFY(reloaded.contains(QStringLiteral("image")));
+    }
+
+    // QSettings reads an organisation-wide file beside the program's own, but writes only its own.
+    void shouldLeaveKeysOfTheFallbackFilesWhereTheyAre()
+    {
+        QVERIFY(Settings().save());
+        const QString orgWide = testEnvironment()->configHome() + QStringLiteral("/Vantorix.conf");
+        QVERIFY(writeFile(orgWide, "[General]\norgWide=1\n"));
+        makeCachedSettingsStale();
+        {
+            Settings settings;
+            settings.setValue(QStringLiteral("own"), 1);
+            QVERIFY(settings.save());
+        }
+        QVERIFY(QFile::remove(orgWide));
+        QVERIFY(!readFile(confPath()).contains("orgWide"));
+        QCOMPARE(readFile(confPath()), writtenByQSettings(storedTreeOnDisk()));
+    }
+
+    void shouldMergeWhatAnotherWriterChangedSinceTheLastSave()
+    {
+        Settings settings;
+        settings.setValue(QStringLiteral("image"), semiTransparentPixmap());
+        QVERIFY(settings.save());
+        {
+            QSettings other(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Vantorix"),
+                            QStringLiteral("Keystage"));
+            other.setValue(QStringLiteral("lang_idx"), 3);
+            other.sync();
+        }
+        settings.setValue(QStringLiteral("later"), 1);
+        {
+            LogCapture capture;
+            QVERIFY(settings.save());
+            QCOMPARE(capture.matching(QStringLiteral("changed by another writer")).size(), 1);
+        }
+        QCOMPARE(diskValue(QStringLiteral("lang_idx")).toInt(), 3);
+        {
+            // Known again: the next save writes the file itself, keeping the key.
+            LogCapture capture;
+            QVERIFY(settings.save());
+            QCOMPARE(capture.matching(QStringLiteral("changed by another writer")).size(), 0);
+        }
+        QCOMPARE(diskValue(QStringLiteral("lang_idx")).toInt(), 3);
+        makeCachedSettingsStale();
+        LogCapture capture;
+        Settings reloaded;
+        QCOMPARE(capture.messages().count(LoadSuccess), 1);
+        QCOMPARE(reloaded.value(QStringLiteral("later")).toInt(), 1);
+    }
+
+    void shouldReportASaveThatCannotBeWritten()
+    {
+        QVERIFY(QDir().mkpath(confPath())); // a directory where the file belongs
+        {
+            Settings settings;
+            LogCapture capture;
+            QVERIFY(!settings.save());
+            QCOMPARE(capture.matching(QStringLiteral("ERROR: Cannot write")).size(), 1);
+        }
+        QVERIFY(QDir(confPath()).removeRecursively());
     }
 
     void shouldWriteTheSettingsVersionOnSave()
