@@ -31,3 +31,13 @@ bool GenericWindowSystem::activateWindowId(quint64)
 {
     return false;
 }
+
+bool GenericWindowSystem::canQueryForegroundApplication() const
+{
+    return false;
+}
+
+QString GenericWindowSystem::foregroundApplicationName()
+{
+    return QString();
+}

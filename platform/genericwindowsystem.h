@@ -15,6 +15,8 @@ public:
     quint64 foregroundWindowId() override;
     QString foregroundWindowTitle() override;
     bool activateWindowId(quint64 windowId) override;
+    bool canQueryForegroundApplication() const override;
+    QString foregroundApplicationName() override;
 
 private:
     QString m_name;

@@ -28,6 +28,13 @@ public:
     // Callable from any thread.
     virtual bool activateWindowId(quint64 windowId) = 0;
 
+    // Whether the desktop tells which application is in front. Wayland has
+    // no general way to ask, so callers can say so instead of guessing.
+    virtual bool canQueryForegroundApplication() const = 0;
+    // The executable's base name ("editor" for /opt/tools/editor.sh) of the
+    // process that owns the active window; empty whenever a step is unknown.
+    virtual QString foregroundApplicationName() = 0;
+
     // The implementation for the running Qt platform.
     static std::unique_ptr<WindowSystem> create();
 };

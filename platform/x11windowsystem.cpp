@@ -1,11 +1,15 @@
 #include "x11windowsystem.h"
 
 #include <QByteArray>
+#include <QFile>
+#include <QFileInfo>
 #include <QWindow>
 #include <QX11Info>
 
+#include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <unistd.h>
 #include <xcb/xcb.h>
 
 namespace {
@@ -139,4 +143,54 @@ QString X11WindowSystem::windowTitle(quint32 windowId)
     if (!utf8.isNull())
         return QString::fromUtf8(utf8);
     return QString::fromLatin1(textProperty(connection, windowId, XCB_ATOM_WM_NAME, XCB_ATOM_STRING));
+}
+
+bool X11WindowSystem::canQueryForegroundApplication() const
+{
+    return true;
+}
+
+QString X11WindowSystem::foregroundApplicationName()
+{
+    const quint32 window = activeWindowId();
+    if (!window)
+        return QString();
+    const quint32 pid = windowProcessId(window);
+    return pid ? executableBaseName(pid) : QString();
+}
+
+quint32 X11WindowSystem::windowProcessId(quint32 window)
+{
+    xcb_connection_t* connection = QX11Info::connection();
+    if (!connection || !QX11Info::isPlatformX11() || !window)
+        return 0;
+    const xcb_atom_t pidAtom = internAtom(connection, "_NET_WM_PID");
+    if (pidAtom == XCB_ATOM_NONE)
+        return 0;
+    xcb_get_property_cookie_t cookie = xcb_get_property(connection, 0, window, pidAtom, XCB_ATOM_CARDINAL, 0, 1);
+    xcb_get_property_reply_t* reply = xcb_get_property_reply(connection, cookie, nullptr);
+    if (!reply)
+        return 0;
+    quint32 pid = 0;
+    if (reply->type == XCB_ATOM_CARDINAL && reply->format == 32 && xcb_get_property_value_length(reply) >= 4)
+        pid = *static_cast<const quint32*>(xcb_get_property_value(reply));
+    std::free(reply);
+    return pid;
+}
+
+QString X11WindowSystem::executableBaseName(qint64 pid)
+{
+    if (pid <= 0)
+        return QString();
+    const QByteArray link = "/proc/" + QByteArray::number(pid) + "/exe";
+    char target[PATH_MAX];
+    const ssize_t length = ::readlink(link.constData(), target, sizeof target);
+    if (length <= 0 || size_t(length) >= sizeof target)
+        return QString();
+    QString path = QFile::decodeName(QByteArray(target, int(length)));
+    // A program removed or replaced while it runs (an upgrade) keeps its name.
+    const QLatin1String deleted(" (deleted)");
+    if (path.endsWith(deleted))
+        path.chop(deleted.size());
+    return QFileInfo(path).baseName();
 }

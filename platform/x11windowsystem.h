@@ -14,6 +14,8 @@ public:
     // _NET_WM_NAME, or WM_NAME for clients that set only the old property.
     QString foregroundWindowTitle() override;
     bool activateWindowId(quint64 windowId) override;
+    bool canQueryForegroundApplication() const override;
+    QString foregroundApplicationName() override;
 
     // The window the window manager reports as active (_NET_ACTIVE_WINDOW on
     // the root window); 0 when unknown.
@@ -21,4 +23,10 @@ public:
 
     // The title a client gave its window; empty when it gave none.
     static QString windowTitle(quint32 windowId);
+    // The process a window declares as its owner (_NET_WM_PID); 0 when it
+    // declares none.
+    static quint32 windowProcessId(quint32 window);
+    // The base name of the program a process runs (/proc/PID/exe); empty
+    // when the link cannot be read, as for other users' processes.
+    static QString executableBaseName(qint64 pid);
 };

@@ -21,6 +21,18 @@ void FakeWindowSystem::setObeysActivation(bool obeys)
     m_obeys = obeys;
 }
 
+void FakeWindowSystem::setForegroundApplication(const QString& name)
+{
+    QMutexLocker lock(&m_mutex);
+    m_application = name;
+}
+
+void FakeWindowSystem::setCanQueryForegroundApplication(bool canQuery)
+{
+    QMutexLocker lock(&m_mutex);
+    m_canQuery = canQuery;
+}
+
 QVector<FakeWindowSystem::Activation> FakeWindowSystem::activations() const
 {
     QMutexLocker lock(&m_mutex);
@@ -54,4 +66,16 @@ bool FakeWindowSystem::activateWindowId(quint64 windowId)
     if (m_obeys)
         m_foreground = windowId;
     return true;
+}
+
+bool FakeWindowSystem::canQueryForegroundApplication() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_canQuery;
+}
+
+QString FakeWindowSystem::foregroundApplicationName()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_canQuery ? m_application : QString();
 }

@@ -20,6 +20,10 @@ public:
     void setForeground(quint64 windowId, const QString& title);
     void setTitle(quint64 windowId, const QString& title);
     void setObeysActivation(bool obeys);
+    // The program in front, whatever the window; an unqueryable desktop
+    // (like Wayland) reports none.
+    void setForegroundApplication(const QString& name);
+    void setCanQueryForegroundApplication(bool canQuery);
     QVector<Activation> activations() const;
 
     QString name() const override;
@@ -27,11 +31,15 @@ public:
     quint64 foregroundWindowId() override;
     QString foregroundWindowTitle() override;
     bool activateWindowId(quint64 windowId) override;
+    bool canQueryForegroundApplication() const override;
+    QString foregroundApplicationName() override;
 
 private:
     mutable QMutex m_mutex;
     quint64 m_foreground = 0;
     QHash<quint64, QString> m_titles;
     bool m_obeys = true;
+    QString m_application;
+    bool m_canQuery = true;
     QVector<Activation> m_activations;
 };
