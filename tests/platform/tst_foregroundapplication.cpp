@@ -112,7 +112,7 @@ private slots:
     void shouldNameAProgramRemovedWhileItRuns()
     {
         QTemporaryDir dir;
-        const QString program = dir.filePath(QStringLiteral("old-tool.bin"));
+        const QString program = dir.filePath(QStringLiteral("old-tool"));
         QVERIFY(QFile::copy(QStringLiteral("/bin/sleep"), program));
         QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         QProcess sleeper;
