@@ -4,18 +4,22 @@
 #include "clicklabel.h"
 #include "dialog.h"
 #include "favoritekeyitemmodel.h"
+#include "foldercondition.h"
 #include "hid_comm.h"
 #include "ipc_thread.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
+#include "keyaction.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
 #include "keypadmonitor.h"
 #include "logging.h"
 #include "objectregistry.h"
+#include "runtimeactionservices.h"
 #include "settings.h"
 #include "settingskeys.h"
 #include "sleepmonitor.h"
+#include "taskproxy.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "trayicon.h"
@@ -25,6 +29,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHideEvent>
+#include <QShowEvent>
 #include <QDebug>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -37,6 +43,8 @@
 #include <QVBoxLayout>
 
 namespace {
+
+constexpr int FolderConditionIntervalMs = 600;
 
 // The key panel of the default layout (15 keys, vertical) until the key grid
 // sizes it for the layout in force.
@@ -77,6 +85,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     buildWindow();
     createModel();
     createDevice();
+    createRuntime();
     setupTray();
 
     m_terminationSignals = new TerminationSignals(this);
@@ -223,6 +232,55 @@ void MainWindow::createDevice()
     connect(
         m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this, [] { UpdateDevIcon::updateAllIcon(); },
         Qt::QueuedConnection);
+}
+
+// Key presses reach the actions on the key action thread; launches and
+// websites run on the task thread; folder conditions watch the foreground
+// application while this window is in the background.
+void MainWindow::createRuntime()
+{
+    m_taskProxy = new TaskProxy;
+    ObjectRegistry::registerObject(ComponentId::TaskProxy, m_taskProxy);
+    m_actionServices = std::make_unique<RuntimeActionServices>(WindowSystem::create());
+    ActionServices::setInstance(m_actionServices.get());
+
+    m_keyAction = new KeyAction;
+    connect(m_hidComm, &Hid_Comm::keyPressed, m_keyAction, &KeyAction::onKeyPressed, Qt::QueuedConnection);
+    connect(m_hidComm, &Hid_Comm::keyReleased, m_keyAction, &KeyAction::onKeyRleased, Qt::QueuedConnection);
+
+    m_folderCondition = new FolderCondition(FolderConditionIntervalMs, this);
+}
+
+void MainWindow::watchForegroundApplications(bool background)
+{
+    if (!m_folderCondition)
+        return;
+    if (background)
+        m_folderCondition->startFolderConditionDetect();
+    else
+        m_folderCondition->stopFolderConditionDetect();
+}
+
+void MainWindow::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    // Spontaneous hides (another desktop) are not the window going away.
+    if (!event->spontaneous())
+        QTimer::singleShot(0, this, [this] { watchForegroundApplications(isHidden() || isMinimized()); });
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!isMinimized())
+        watchForegroundApplications(false);
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        QTimer::singleShot(0, this, [this] { watchForegroundApplications(isHidden() || isMinimized()); });
 }
 
 void MainWindow::onKeyboardStatusChange(bool connected)
@@ -473,6 +531,17 @@ void MainWindow::stopThreads()
 {
     if (m_ipcThread)
         m_ipcThread->stop();
+    if (m_folderCondition)
+        m_folderCondition->stopFolderConditionDetect();
+    // Keys first, so no action starts while the rest goes away.
+    delete m_keyAction;
+    m_keyAction = nullptr;
+    ActionServices::setInstance(nullptr);
+    if (m_taskProxy) {
+        ObjectRegistry::unregisterObject(ComponentId::TaskProxy);
+        delete m_taskProxy;
+        m_taskProxy = nullptr;
+    }
     if (m_hidComm) {
         ObjectRegistry::unregisterObject(ComponentId::HidComm);
         delete m_hidComm;

@@ -8,7 +8,11 @@
 
 class ButtonLayoutConfig;
 class FavoriteKeyItemModel;
+class FolderCondition;
 class Hid_Comm;
+class KeyAction;
+class RuntimeActionServices;
+class TaskProxy;
 class KeypadMonitor;
 class SleepMonitor;
 class KeyItem;
@@ -73,11 +77,16 @@ public slots:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void buildWindow();
     void createModel();
     void createDevice();
+    void createRuntime();
+    void watchForegroundApplications(bool background);
     void onKeyboardStatusChange(bool connected);
     void showKeypadStatus();
     void onModelContentChanged(const KeyItem* item);
@@ -106,6 +115,10 @@ private:
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
     Hid_Comm* m_hidComm = nullptr;
+    TaskProxy* m_taskProxy = nullptr;
+    KeyAction* m_keyAction = nullptr;
+    FolderCondition* m_folderCondition = nullptr;
+    std::unique_ptr<RuntimeActionServices> m_actionServices;
     KeypadMonitor* m_keypadMonitor = nullptr;
     SleepMonitor* m_sleepMonitor = nullptr;
     QTimer* m_keypadStatusTimer = nullptr;
