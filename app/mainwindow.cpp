@@ -7,9 +7,9 @@
 #include "foldercondition.h"
 #include "hid_comm.h"
 #include "ipc_thread.h"
+#include "keyaction.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
-#include "keyaction.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
 #include "keypadmonitor.h"
@@ -29,15 +29,15 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHideEvent>
-#include <QShowEvent>
 #include <QDebug>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QHideEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QProcess>
 #include <QSettings>
+#include <QShowEvent>
 #include <QTimer>
 #include <QTranslator>
 #include <QVBoxLayout>

@@ -185,17 +185,16 @@ int VTHidDev::sendClearKey(uint8_t key)
 
 int VTHidDev::vT_WriteImage(uint8_t key, const uint8_t* data, int size)
 {
-    if (!handle())
-        return Err_NoDevice;
-    if (size >= MaxImageSize || size < 0 || (size > 0 && !data))
-        return Err_ParamInvalid;
-    if (size == 0)
-        return sendClearKey(key);
-    sendLargeChunks(data, size);
-    return sendShowImage(key, size);
+    return writeImage(key, data, size, false);
 }
 
 int VTHidDev::vT_WriteImageNUC442(uint8_t key, const uint8_t* data, int size)
+{
+    return writeImage(key, data, size, true);
+}
+
+// The two image paths differ only in their packet size.
+int VTHidDev::writeImage(uint8_t key, const uint8_t* data, int size, bool smallPackets)
 {
     if (!handle())
         return Err_NoDevice;
@@ -203,7 +202,10 @@ int VTHidDev::vT_WriteImageNUC442(uint8_t key, const uint8_t* data, int size)
         return Err_ParamInvalid;
     if (size == 0)
         return sendClearKey(key);
-    sendSmallChunks(data, size);
+    if (smallPackets)
+        sendSmallChunks(data, size);
+    else
+        sendLargeChunks(data, size);
     return sendShowImage(key, size);
 }
 

@@ -66,6 +66,7 @@ public:
     unsigned pid = 0;
 
 private:
+    int writeImage(uint8_t key, const uint8_t* data, int size, bool smallPackets);
     int sendLargeChunks(const uint8_t* data, int size);
     int sendSmallChunks(const uint8_t* data, int size);
     int sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, int reportLength);

@@ -19,8 +19,7 @@ public:
     void sendMacroKeyEvent(QList<MarcoKeyItem> steps) override;
     bool setClipboardText(const QString& text) override;
     bool runTask(const QString& name, std::function<void()> work) override;
-    bool startDetached(const QString& program, const QStringList& arguments,
-                       const QString& workingDirectory) override;
+    bool startDetached(const QString& program, const QStringList& arguments, const QString& workingDirectory) override;
     bool openUrl(const QUrl& url) override;
     QString foregroundApplicationName() override;
 

@@ -5,6 +5,7 @@
 #include "keyaction.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypadfixture.h"
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "recordingactionservices.h"
@@ -52,36 +53,20 @@ private slots:
 
     void init()
     {
-        keypad = std::make_unique<SimulatedKeypad>();
-        HidTransport::setInstance(keypad.get());
-        QFile::remove(Settings().fileName());
-        settings = std::make_unique<Settings>();
-        layouts = std::make_unique<ButtonLayoutConfig>();
-        ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, layouts.get());
-        model = std::make_unique<KeyItemModel>();
-        hid = std::make_unique<Hid_Comm>();
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, model.get());
-        ObjectRegistry::registerObject(ComponentId::HidComm, hid.get());
+        fx.setUp();
         keyAction = std::make_unique<KeyAction>();
-        connect(hid.get(), &Hid_Comm::keyPressed, keyAction.get(), &KeyAction::onKeyPressed);
-        connect(hid.get(), &Hid_Comm::keyReleased, keyAction.get(), &KeyAction::onKeyRleased);
+        connect(fx.hid.get(), &Hid_Comm::keyPressed, keyAction.get(), &KeyAction::onKeyPressed);
+        connect(fx.hid.get(), &Hid_Comm::keyReleased, keyAction.get(), &KeyAction::onKeyRleased);
         services = std::make_unique<RecordingActionServices>();
-        useLayout(H_Key_15);
-        QTRY_VERIFY(hid->isOpened());
+        fx.useLayout(H_Key_15);
+        QTRY_VERIFY(fx.hid->isOpened());
     }
 
     void cleanup()
     {
         keyAction.reset();
         services.reset();
-        ObjectRegistry::clear();
-        hid.reset();
-        model.reset();
-        layouts.reset();
-        settings.reset();
-        HidTransport::setInstance(nullptr);
-        keypad.reset();
+        fx.tearDown();
     }
 
     void shouldPerformTheActionAndShowThePressedFace()
@@ -89,21 +74,21 @@ private slots:
         KA_HotKey* hotkey = hotkeyAt(4, 0x41);
         hotkey->keyCtrl = true;
         const int imageKey = Hid_Comm::deviceKeyNumber(H_Key_15, 4);
-        keypad->pressKey(0); // key id 1 is button 4 of this keypad
+        fx.keypad->pressKey(0); // key id 1 is button 4 of this keypad
         QTRY_COMPARE(services->calls(), QStringList{"key 65 ctrl"});
-        QTRY_VERIFY(!keypad->keyImage(imageKey).isNull());
-        QCOMPARE(keypad->keyImage(imageKey).pixelColor(3, 3), QColor(Qt::black)); // shrunk onto black
+        QTRY_VERIFY(!fx.keypad->keyImage(imageKey).isNull());
+        QCOMPARE(fx.keypad->keyImage(imageKey).pixelColor(3, 3), QColor(Qt::black)); // shrunk onto black
 
-        keypad->clearReports();
-        keypad->releaseKey(0);
-        QTRY_VERIFY(keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage) >= 1);
+        fx.keypad->clearReports();
+        fx.keypad->releaseKey(0);
+        QTRY_VERIFY(fx.keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage) >= 1);
         QCOMPARE(services->calls().size(), 1); // nothing is performed on release
     }
 
     void shouldToggleATwoFeatureHotkeyOnRelease()
     {
         hotkeyAt(4, 0x41);
-        KeyItem* item = model->keyItemAt(4);
+        KeyItem* item = fx.model->keyItemAt(4);
         static_cast<KA_HotKey*>(item->action[1])->nativeCode = 0x42;
         item->multiFeatureFlag = true;
         QList<const KeyItem*> redrawn;
@@ -120,27 +105,27 @@ private slots:
 
     void shouldIgnoreAnUnconfiguredKey()
     {
-        model->resetCurrentKeyItemsToDefault();
-        model->deleteKeyItem(4);
-        QVERIFY(model->createKeyAction(4, KAT_HOTKEY)); // no key recorded
-        keypad->clearReports();
+        fx.model->resetCurrentKeyItemsToDefault();
+        fx.model->deleteKeyItem(4);
+        QVERIFY(fx.model->createKeyAction(4, KAT_HOTKEY)); // no key recorded
+        fx.keypad->clearReports();
         click(0);
-        keypad->pressKey(14); // a key whose button holds nothing
+        fx.keypad->pressKey(14); // a key whose button holds nothing
         QTest::qWait(300);
         QVERIFY(services->calls().isEmpty());
-        QCOMPARE(keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage), 0);
+        QCOMPARE(fx.keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage), 0);
     }
 
     void shouldOpenAFolderAndGoBackFromTheKeypad()
     {
-        model->deleteKeyItem(4);
-        QVERIFY(model->createKeyAction(4, KAT_FOLDER));
-        auto* folder = static_cast<KA_Folder*>(model->keyItemAt(4)->action[0]);
+        fx.model->deleteKeyItem(4);
+        QVERIFY(fx.model->createKeyAction(4, KAT_FOLDER));
+        auto* folder = static_cast<KA_Folder*>(fx.model->keyItemAt(4)->action[0]);
         click(0);
-        QTRY_COMPARE(model->getCurrentLayoutListHead(), &folder->childList);
+        QTRY_COMPARE(fx.model->getCurrentLayoutListHead(), &folder->childList);
         // The back key sits in the page's last position, button 14: key id 11.
         click(10);
-        QTRY_COMPARE(model->getCurrentLayoutListHead(), model->rootList(H_Key_15));
+        QTRY_COMPARE(fx.model->getCurrentLayoutListHead(), fx.model->rootList(H_Key_15));
     }
 
     void shouldRefuseToActWithoutALayout()
@@ -151,38 +136,27 @@ private slots:
         QMetaObject::invokeMethod(keyAction.get(), "onKeyPressed", Q_ARG(int, 1));
         QMetaObject::invokeMethod(keyAction.get(), "onKeyRleased", Q_ARG(int, 1));
         QTRY_COMPARE(capture.matching(QStringLiteral("layoutType out of range!!!")).size(), 2);
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, layouts.get());
+        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, fx.layouts.get());
     }
 
 private:
-    void useLayout(int layout)
-    {
-        layouts->changeLayout(layout);
-        model->changeLayoutButtonView(KeyLayout(layout));
-        hid->onButtonLayoutChanged(KeyLayout(layout));
-    }
-
     KA_HotKey* hotkeyAt(int button, int nativeCode)
     {
-        if (model->keyItemAt(button))
-            model->deleteKeyItem(button);
-        model->createKeyAction(button, KAT_HOTKEY);
-        auto* hotkey = static_cast<KA_HotKey*>(model->keyItemAt(button)->action[0]);
+        if (fx.model->keyItemAt(button))
+            fx.model->deleteKeyItem(button);
+        fx.model->createKeyAction(button, KAT_HOTKEY);
+        auto* hotkey = static_cast<KA_HotKey*>(fx.model->keyItemAt(button)->action[0]);
         hotkey->nativeCode = nativeCode;
         return hotkey;
     }
 
     void click(int keyBit)
     {
-        keypad->pressKey(keyBit);
-        keypad->releaseKey(keyBit);
+        fx.keypad->pressKey(keyBit);
+        fx.keypad->releaseKey(keyBit);
     }
 
-    std::unique_ptr<SimulatedKeypad> keypad;
-    std::unique_ptr<Settings> settings;
-    std::unique_ptr<ButtonLayoutConfig> layouts;
-    std::unique_ptr<KeyItemModel> model;
-    std::unique_ptr<Hid_Comm> hid;
+    KeypadFixture fx;
     std::unique_ptr<KeyAction> keyAction;
     std::unique_ptr<RecordingActionServices> services;
 };
