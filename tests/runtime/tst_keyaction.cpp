@@ -92,7 +92,8 @@ private slots:
         static_cast<KA_HotKey*>(item->action[1])->nativeCode = 0x42;
         item->multiFeatureFlag = true;
         QList<const KeyItem*> redrawn;
-        connect(keyAction.get(), &KeyAction::updateContent, this,
+        QObject receiver; // the connection ends with this test, queued calls included
+        connect(keyAction.get(), &KeyAction::updateContent, &receiver,
                 [&](const KeyItem* changed) { redrawn.append(changed); });
 
         click(0);
