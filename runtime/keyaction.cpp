@@ -61,13 +61,18 @@ KeyItem* configuredItem(KeyItemModel* model, int button)
 }
 
 // Feedback goes to the screen of the button's own key. (The image reports
-// number keys from 0 on some models where key reports count from 1.)
+// number keys from 0 on some models where key reports count from 1.) The face
+// is drawn here and handed to the GUI thread to send, so the action starts at
+// once instead of after the protocol's pauses for one image.
 void showFace(const KeyItem* item, int layout, int button, bool pressedLook)
 {
     auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
     if (!hid)
         return;
-    hid->sendIcon(Hid_Comm::deviceKeyNumber(layout, button), KeyFaceRenderer::render(item), pressedLook);
+    const int imageKey = Hid_Comm::deviceKeyNumber(layout, button);
+    const QImage face = KeyFaceRenderer::render(item);
+    QMetaObject::invokeMethod(
+        hid, [hid, imageKey, face, pressedLook] { hid->sendIcon(imageKey, face, pressedLook); }, Qt::QueuedConnection);
 }
 
 } // namespace
