@@ -115,8 +115,8 @@ void KeyAction::onKeyPressed(int devKeyId)
     item->currentAction()->doAction(0);
 }
 
-// A release shows the face again; a two-feature hotkey first switches to its
-// other feature, so the next press performs that one.
+// A release shows the face again; a two-feature hotkey switches to its other
+// feature, so the next press performs that one.
 void KeyAction::onKeyRleased(int devKeyId)
 {
     LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
@@ -131,12 +131,15 @@ void KeyAction::onKeyRleased(int devKeyId)
     const int button = buttonIndex(layout, devKeyId);
     model->beginUpdate();
     KeyItem* item = configuredItem(model, button);
-    if (item) {
-        if (item->multiFeatureFlag)
-            item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
+    const bool toggled = item && item->multiFeatureFlag;
+    if (toggled)
+        item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
+    else if (item)
         showFace(item, layout, button, false);
-    }
-    model->endUpdate(item != nullptr, item);
-    if (item && item->multiFeatureFlag)
+    // Only a toggle changes the model. Its notification redraws the key on
+    // the keypad and in the editor and saves the new slot; a plain release
+    // neither redraws twice nor starts a save of the whole configuration.
+    model->endUpdate(toggled, item);
+    if (toggled)
         emit updateContent(item);
 }
