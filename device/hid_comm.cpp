@@ -1,5 +1,6 @@
 #include "hid_comm.h"
 
+#include "buttonlayoutconfig.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keypadids.h"
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr int KeyCounts[] = {6, 6, 15, 15, 32, 32};
 constexpr int PollTimeoutMs = 100;
 constexpr int IdlePollMs = 1000;
 constexpr int EffectIconSize = 50;
@@ -36,21 +36,9 @@ constexpr int DeviceKeyNumbers[6][32] = {
 
 std::atomic<bool> vendorLibraryInUse{false};
 
-bool isValidLayout(int layout)
-{
-    return layout >= 0 && layout <= 5;
-}
-
 bool usesSmallPackets(int layout)
 {
     return layout == H_Key_6 || layout == V_Key_6;
-}
-
-QImage blackKey()
-{
-    QImage image(Hid_Comm::KeyImageSize, Hid_Comm::KeyImageSize, QImage::Format_RGBA8888);
-    image.fill(Qt::black);
-    return image;
 }
 
 QImage composeKeyImage(const QImage& icon, bool effectIcon)
@@ -58,12 +46,12 @@ QImage composeKeyImage(const QImage& icon, bool effectIcon)
     const QSize keySize(Hid_Comm::KeyImageSize, Hid_Comm::KeyImageSize);
     if (!effectIcon) {
         if (icon.isNull())
-            return blackKey();
+            return KeyFaceRenderer::blankFace();
         QImage scaled =
             icon.size() == keySize ? icon : icon.scaled(keySize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         return scaled.convertToFormat(QImage::Format_RGBA8888);
     }
-    QImage image = blackKey();
+    QImage image = KeyFaceRenderer::blankFace();
     if (icon.isNull())
         return image;
     const QImage fitted = icon.scaled(EffectIconSize, EffectIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -101,14 +89,9 @@ bool Hid_Comm::usesVendorLibrary()
     return vendorLibraryInUse.load();
 }
 
-int Hid_Comm::keyCount(int layoutValue)
-{
-    return isValidLayout(layoutValue) ? KeyCounts[layoutValue] : 0;
-}
-
 int Hid_Comm::deviceKeyNumber(int layoutValue, int position)
 {
-    if (position < 0 || position >= keyCount(layoutValue))
+    if (position < 0 || position >= ButtonLayoutConfig::keyCount(layoutValue))
         return -1;
     return DeviceKeyNumbers[layoutValue][position];
 }
@@ -291,12 +274,12 @@ void Hid_Comm::pollOwnProtocol()
 void Hid_Comm::handleKeyStates(const KEYBUTTON_DATA& keys)
 {
     const int layoutValue = layout.load();
-    if (!isValidLayout(layoutValue)) {
+    if (!ButtonLayoutConfig::isValidLayout(layoutValue)) {
         LOG_MSG(QStringLiteral("layoutType out of range!!!"));
         return;
     }
     quint64 mask = 0;
-    for (int n = 0; n < KeyCounts[layoutValue]; ++n) {
+    for (int n = 0; n < ButtonLayoutConfig::keyCount(layoutValue); ++n) {
         if (keys.key[n])
             mask |= quint64(1) << n;
     }
@@ -375,7 +358,7 @@ void Hid_Comm::onUpdateContent(const KeyItem* keyItem)
                            QStringLiteral("keyItem index out of range!!!")))
         return;
     const int layoutValue = layout.load();
-    if (!logMsgWhenRetFail(isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+    if (!logMsgWhenRetFail(ButtonLayoutConfig::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
         return;
     const int deviceKey = deviceKeyNumber(layoutValue, keyItem->keyIdx);
     if (deviceKey < 0) {
@@ -395,9 +378,9 @@ bool Hid_Comm::sendIcon(int devKeyIdx, const QImage& icon, bool effectIcon)
     if (!opened.load())
         return false;
     const int layoutValue = layout.load();
-    if (!logMsgWhenRetFail(isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+    if (!logMsgWhenRetFail(ButtonLayoutConfig::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
         return false;
-    if (devKeyIdx < 0 || devKeyIdx > keyCount(layoutValue)) {
+    if (devKeyIdx < 0 || devKeyIdx > ButtonLayoutConfig::keyCount(layoutValue)) {
         LOG_MSG(QStringLiteral("index out of range: %1").arg(devKeyIdx));
         return false;
     }
@@ -442,11 +425,11 @@ bool Hid_Comm::sendIconArray(const QPixmap* icons)
 bool Hid_Comm::sendIconArray(const QImage* icons)
 {
     const int layoutValue = layout.load();
-    if (!opened.load() || !isValidLayout(layoutValue))
+    if (!opened.load() || !ButtonLayoutConfig::isValidLayout(layoutValue))
         return false;
     QMutexLocker locker(&deviceMutex);
     int result = Err_Failure;
-    for (int position = 0; position < keyCount(layoutValue); ++position) {
+    for (int position = 0; position < ButtonLayoutConfig::keyCount(layoutValue); ++position) {
         result = writeKeyImage(layoutValue, deviceKeyNumber(layoutValue, position), icons[position]);
         if (layoutValue == H_Key_32)
             VTHidDev::delayMs(1);

@@ -49,7 +49,6 @@ public:
     // Position in the editor's grid -> the key number the image reports
     // carry; -1 beyond the layout's keys or for an invalid layout.
     static int deviceKeyNumber(int layout, int position);
-    static int keyCount(int layout);
     // Turns a key image the way the layout's keypad is mounted.
     static QImage orientForLayout(const QImage& image, int layout);
     // Whether the open keypad is driven through its maker's library.

@@ -13,13 +13,6 @@ namespace {
 QImage keyImages[Hid_Comm::MaxKeys];
 int positionToItem[Hid_Comm::MaxKeys];
 
-QImage blackKey()
-{
-    QImage image(Hid_Comm::KeyImageSize, Hid_Comm::KeyImageSize, QImage::Format_RGBA8888);
-    image.fill(Qt::black);
-    return image;
-}
-
 void refreshPositionTable(const KeyItemModel* model)
 {
     for (int position = 0; position < Hid_Comm::MaxKeys; ++position)
@@ -30,11 +23,11 @@ QImage keyImageAt(const QList<KeyItem*>& list, int position)
 {
     const int index = positionToItem[position];
     if (index < 0 || index >= list.size())
-        return blackKey();
+        return KeyFaceRenderer::blankFace();
     const KeyItem* item = list.at(index);
     if (!item) {
         LOG_MSG(QStringLiteral("get null ptr!"));
-        return blackKey();
+        return KeyFaceRenderer::blankFace();
     }
     return KeyFaceRenderer::render(item);
 }

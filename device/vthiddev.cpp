@@ -1,6 +1,7 @@
 #include "vthiddev.h"
 
 #include "hidtransport.h"
+#include "keypadids.h"
 
 #include <QDebug>
 #include <QElapsedTimer>
@@ -396,12 +397,12 @@ int VTHidDev::vT_FirmwareUpgradeNUC442(const QByteArray& image)
         transport()->close(keypad);
     if (transport()->init() != 0)
         return Err_DeviceOpen;
-    HidDeviceHandle* bootLoader = transport()->open(VendorId, BootLoaderProductId);
+    HidDeviceHandle* bootLoader = transport()->open(KeypadIds::VendorId, KeypadIds::BootLoaderProductId);
     if (!bootLoader)
         return Err_DeviceOpen;
     sharedHandle.store(bootLoader);
-    vid = VendorId;
-    pid = BootLoaderProductId;
+    vid = KeypadIds::VendorId;
+    pid = KeypadIds::BootLoaderProductId;
 
     const QByteArray body = image.mid(FirmwareHeaderLength);
     const int pages = (body.size() + BootLoaderPageSize - 1) / BootLoaderPageSize;

@@ -32,8 +32,6 @@ enum VTHidResult : int
 class Q_DECL_EXPORT VTHidDev
 {
 public:
-    static constexpr unsigned VendorId = 0xFFFF;
-    static constexpr unsigned BootLoaderProductId = 0xFF00;
     // Images must be smaller than this many bytes.
     static constexpr int MaxImageSize = 16367;
 
