@@ -19,24 +19,17 @@ class MainWindowTest : public QObject
 private slots:
     void cleanup() { Dialog::clearNextAnswers(); }
 
-    void shouldRegisterItselfWithItsLogFirst()
-    {
-        QSettings settings;
-        MainWindow window(&settings, false);
-        QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), &window);
-        QCOMPARE(ObjectRegistry::mainWindowLog(), window.log());
-
-        QFile file(window.log()->filePath());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString firstLine = QString::fromUtf8(file.readLine());
-        QVERIFY2(firstLine.contains(QStringLiteral(": MainWindow::MainWindow,")), qPrintable(firstLine));
-    }
-
-    void shouldUnregisterWhenDestroyed()
+    void shouldBeRegisteredWithItsLogFirstWhileItLives()
     {
         {
             QSettings settings;
             MainWindow window(&settings, false);
+            QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), &window);
+            QCOMPARE(ObjectRegistry::mainWindowLog(), window.log());
+            QFile file(window.log()->filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString firstLine = QString::fromUtf8(file.readLine());
+            QVERIFY2(firstLine.contains(QStringLiteral(": MainWindow::MainWindow,")), qPrintable(firstLine));
         }
         QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), nullptr);
         QCOMPARE(ObjectRegistry::mainWindowLog(), nullptr);
@@ -109,9 +102,7 @@ private slots:
         QSignalSpy spy(&window, &MainWindow::appStateChange);
         emit qApp->applicationStateChanged(Qt::ApplicationInactive);
         emit qApp->applicationStateChanged(Qt::ApplicationActive);
-        QCOMPARE(spy.count(), 2);
-        QCOMPARE(spy.at(0).at(0).toBool(), false);
-        QCOMPARE(spy.at(1).at(0).toBool(), true);
+        QCOMPARE(spy, (QList<QVariantList>{{false}, {true}}));
     }
 
     void shouldLoadTranslationsOnlyForKnownLanguages_data()
@@ -120,10 +111,6 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::newRow("none") << -1 << QString();
         QTest::newRow("en") << 0 << ":/translator/en-us.qm";
-        QTest::newRow("ja") << 1 << ":/translator/ja.qm";
-        QTest::newRow("zh-TW") << 2 << ":/translator/zh-TW.qm";
-        QTest::newRow("it") << 3 << ":/translator/it.qm";
-        QTest::newRow("de") << 4 << ":/translator/de.qm";
         QTest::newRow("fr") << 5 << ":/translator/fr.qm";
         QTest::newRow("6") << 6 << QString();
         QTest::newRow("-5") << -5 << QString();

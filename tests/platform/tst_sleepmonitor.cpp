@@ -55,13 +55,8 @@ private slots:
 
     void cleanupTestCase()
     {
-        if (m_daemon.state() == QProcess::NotRunning)
-            return;
-        m_daemon.terminate();
-        if (!m_daemon.waitForFinished(Patience)) {
-            m_daemon.kill();
-            m_daemon.waitForFinished(Patience);
-        }
+        m_daemon.kill();
+        m_daemon.waitForFinished(Patience);
     }
 
     void cleanup()
@@ -71,7 +66,7 @@ private slots:
         m_connections.clear();
     }
 
-    void shouldReportSleepAndResume()
+    void shouldReportSleepAndResumeFromLogindOnly()
     {
         QDBusConnection logind = busConnection(QStringLiteral("logind"));
         QVERIFY(logind.registerService(LogindService));
@@ -79,23 +74,6 @@ private slots:
         SleepMonitor monitor(busConnection(QStringLiteral("monitor")));
         QVERIFY(monitor.isActive());
         QVERIFY(capture.matching(QStringLiteral("not on the bus")).isEmpty());
-        QSignalSpy sleeping(&monitor, &SleepMonitor::aboutToSleep);
-        QSignalSpy resumed(&monitor, &SleepMonitor::resumed);
-
-        sendPrepareForSleep(logind, true);
-        QTRY_COMPARE_WITH_TIMEOUT(sleeping.count(), 1, Patience);
-        QCOMPARE(resumed.count(), 0);
-
-        sendPrepareForSleep(logind, false);
-        QTRY_COMPARE_WITH_TIMEOUT(resumed.count(), 1, Patience);
-        QCOMPARE(sleeping.count(), 1);
-    }
-
-    void shouldIgnoreSignalsNotFromLogind()
-    {
-        QDBusConnection logind = busConnection(QStringLiteral("logind"));
-        QVERIFY(logind.registerService(LogindService));
-        SleepMonitor monitor(busConnection(QStringLiteral("monitor")));
         QSignalSpy sleeping(&monitor, &SleepMonitor::aboutToSleep);
         QSignalSpy resumed(&monitor, &SleepMonitor::resumed);
 
@@ -107,6 +85,10 @@ private slots:
         sendPrepareForSleep(logind, true);
         QTRY_COMPARE_WITH_TIMEOUT(sleeping.count(), 1, Patience);
         QCOMPARE(resumed.count(), 0);
+
+        sendPrepareForSleep(logind, false);
+        QTRY_COMPARE_WITH_TIMEOUT(resumed.count(), 1, Patience);
+        QCOMPARE(sleeping.count(), 1);
     }
 
     void shouldHearLogindThatStartsLater()
@@ -114,7 +96,6 @@ private slots:
         LogCapture capture;
         SleepMonitor monitor(busConnection(QStringLiteral("monitor")));
         QVERIFY(monitor.isActive());
-        QCOMPARE(capture.matching(QStringLiteral("systemd-logind is not on the bus")).size(), 1);
         QSignalSpy sleeping(&monitor, &SleepMonitor::aboutToSleep);
 
         QDBusConnection logind = busConnection(QStringLiteral("logind"));
@@ -127,10 +108,9 @@ private slots:
     void shouldCarryOnWithoutBus()
     {
         LogCapture capture;
-        const QString name = QStringLiteral("nowhere");
-        m_connections.append(name);
-        const QString missing = m_busDir.filePath(QStringLiteral("no-such-bus"));
-        SleepMonitor monitor(QDBusConnection::connectToBus(QStringLiteral("unix:path=") + missing, name));
+        m_connections.append(QStringLiteral("nowhere"));
+        SleepMonitor monitor(QDBusConnection::connectToBus(
+            QStringLiteral("unix:path=") + m_busDir.filePath(QStringLiteral("no-such-bus")), m_connections.last()));
         QVERIFY(!monitor.isActive());
         QCOMPARE(capture.matching(QStringLiteral("suspend and resume go unnoticed")).size(), 1);
     }

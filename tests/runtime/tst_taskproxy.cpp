@@ -27,67 +27,42 @@ class TaskProxyTest : public QObject
     Q_OBJECT
 
 private slots:
+    // Reported on the receiver's thread, each task's name in the log.
     void shouldRunTasksInOrderOnOneWorkerThread()
     {
+        LogCapture capture;
         TaskProxy proxy;
-        QSignalSpy finished(&proxy, &TaskProxy::taskFinished);
+        QList<int> reported;
+        connect(&proxy, &TaskProxy::taskFinished, this, [&](int token) {
+            QCOMPARE(QThread::currentThread(), thread());
+            reported << token;
+        });
         QMutex mutex;
         QStringList ran;
         QSet<QThread*> threads;
         QSemaphore gate;
         QList<int> tokens;
-        // The first task holds the worker so the others are queued behind it.
-        tokens << proxy.runTask(QStringLiteral("first"), [&] {
-            gate.acquire();
-            QMutexLocker locker(&mutex);
-            ran << QStringLiteral("first");
-            threads << QThread::currentThread();
-        });
-        for (int i = 2; i <= 5; ++i) {
+        for (int i = 1; i <= 5; ++i) {
             tokens << proxy.runTask(QStringLiteral("task%1").arg(i), [&, i] {
+                // The first task holds the worker so the others queue behind it.
+                if (i == 1)
+                    gate.acquire();
                 QMutexLocker locker(&mutex);
                 ran << QStringLiteral("task%1").arg(i);
                 threads << QThread::currentThread();
             });
         }
         gate.release();
-        QTRY_COMPARE(finished.count(), 5);
+        QTRY_COMPARE(reported.size(), 5);
 
-        QCOMPARE(ran, (QStringList{"first", "task2", "task3", "task4", "task5"}));
+        QCOMPARE(ran, (QStringList{"task1", "task2", "task3", "task4", "task5"}));
         QCOMPARE(threads.size(), 1);
-        QThread* worker = *threads.begin();
-        QVERIFY(worker != QThread::currentThread());
-        QCOMPARE(worker->objectName(), QStringLiteral("TaskProxy"));
-        QList<int> reported;
-        for (const QList<QVariant>& arguments : finished)
-            reported << arguments.at(0).toInt();
+        QVERIFY(*threads.begin() != QThread::currentThread());
+        QCOMPARE((*threads.begin())->objectName(), QStringLiteral("TaskProxy"));
         QCOMPARE(reported, tokens);
         QCOMPARE(QSet<int>(tokens.begin(), tokens.end()).size(), tokens.size());
         QVERIFY(!tokens.contains(-1));
-    }
-
-    void shouldReportTheFinishOnTheReceiversThread()
-    {
-        TaskProxy proxy;
-        QThread* reportedOn = nullptr;
-        int reportedToken = 0;
-        connect(&proxy, &TaskProxy::taskFinished, this, [&](int token) {
-            reportedOn = QThread::currentThread();
-            reportedToken = token;
-        });
-        const int token = proxy.runTask(QStringLiteral("nothing"), [] {});
-        QTRY_COMPARE(reportedToken, token);
-        QCOMPARE(reportedOn, QThread::currentThread());
-    }
-
-    void shouldLogTheTaskName()
-    {
-        LogCapture capture;
-        TaskProxy proxy;
-        QSignalSpy finished(&proxy, &TaskProxy::taskFinished);
-        proxy.runTask(QStringLiteral("executeCmd"), [] {});
-        QTRY_COMPARE(finished.count(), 1);
-        QCOMPARE(capture.matching(QStringLiteral("executeCmd")).size(), 1);
+        QCOMPARE(capture.matching(QStringLiteral("task3")).size(), 1);
     }
 
     void shouldRefuseATaskWithoutWork()
@@ -130,15 +105,6 @@ private slots:
         QCOMPARE(int(runningDone), 1);
         QCOMPARE(int(waitingRan), 0);
         QCOMPARE(finishedCount, 1);
-    }
-
-    void shouldBeDestroyedWhileIdle()
-    {
-        auto* proxy = new TaskProxy;
-        QSignalSpy finished(proxy, &TaskProxy::taskFinished);
-        proxy->runTask(QStringLiteral("one"), [] {});
-        QTRY_COMPARE(finished.count(), 1);
-        delete proxy;
     }
 };
 
