@@ -34,14 +34,12 @@ inline QPixmap semiTransparentPixmap(int seed = 0)
     return QPixmap::fromImage(image);
 }
 
+// Large flat areas: compressed much better than the others.
 inline QPixmap opaquePixmap()
 {
     QImage image(72, 72, QImage::Format_RGB32);
     image.fill(QColor(20, 90, 160));
-    QPainter painter(&image);
-    painter.setBrush(QColor(240, 200, 10));
-    painter.drawEllipse(10, 12, 44, 40);
-    painter.end();
+    QPainter(&image).fillRect(10, 12, 44, 40, QColor(240, 200, 10));
     return QPixmap::fromImage(image);
 }
 
@@ -115,13 +113,11 @@ inline QList<QPair<const char*, QVariant>> everyValueType()
 {
     return {
         {"int", 42},
-        {"negative int", -70000},
         {"uint", 4000000000u},
         {"long long", -(qlonglong(1) << 40)},
         {"unsigned long long", qulonglong(1) << 63},
         {"double", 1.25},
         {"true", true},
-        {"false", false},
         {"string", QStringLiteral("über ✓ ;,=\"\\ ")},
         {"empty string", QString(QLatin1String(""))},
         {"null string", QString()},

@@ -60,14 +60,24 @@ private slots:
         m_settings.reset();
     }
 
+    void shouldAskBeforeLosingItemsOverTheLimit_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("kept");
+        QTest::newRow("continued") << "Continue" << 60;
+        QTest::newRow("closed by the title bar") << "" << 58;
+    }
+
     void shouldAskBeforeLosingItemsOverTheLimit()
     {
+        QFETCH(QString, answer);
+        QFETCH(int, kept);
         FavoriteKeyItemModel model;
         model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
         QCOMPARE(model.count(), 58);
         QVERIFY(m_questions.isEmpty());
 
-        m_answer = QStringLiteral("Continue");
+        m_answer = answer;
         model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
         QCOMPARE(m_questions.size(), 1);
         QCOMPARE(m_questions.first().subject, QStringLiteral("The limit of \"My Favorite\" is 60 items."));
@@ -76,21 +86,11 @@ private slots:
                                 "item will be lost. Are you sure you want to proceed?"));
         QCOMPARE(m_questions.first().midText, QStringLiteral("Cancel"));
         QCOMPARE(m_questions.first().rightText, QStringLiteral("Continue"));
-        QCOMPARE(model.count(), 60);
-        QCOMPARE(textOf(model.keyItems().at(58)), QStringLiteral("new0"));
-        QCOMPARE(textOf(model.keyItems().at(59)), QStringLiteral("new1"));
+        QCOMPARE(model.count(), kept);
+        QCOMPARE(textOf(model.keyItems().last()), kept == 60 ? QStringLiteral("new1") : QStringLiteral("old57"));
     }
 
-    void shouldChangeNothingUnlessContinued()
-    {
-        FavoriteKeyItemModel model;
-        model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
-        m_answer = QString(); // closed by the title bar
-        model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
-        QCOMPARE(model.count(), 58);
-    }
-
-    void shouldRefuseAnyImportWhenFull()
+    void shouldRefuseImportsWhenFullOrWithoutKeyCount()
     {
         FavoriteKeyItemModel model;
         model.appendKeyItemFromImportedFile(fileOf(60, QStringLiteral("old")));
@@ -102,11 +102,8 @@ private slots:
         QCOMPARE(model.count(), 60);
         KeyItem extra(KAT_HOTKEY, 0, V_Key_15);
         QVERIFY(!model.appendKeyItem(&extra));
-    }
 
-    void shouldIgnoreAFileWithoutKeyCount()
-    {
-        FavoriteKeyItemModel model;
+        model.removeAll();
         LogCapture capture;
         QVariantMap map = fileOf(2, QStringLiteral("x"));
         map.remove(SettingsKeys::KeyCnt);
@@ -115,18 +112,17 @@ private slots:
         QCOMPARE(capture.matching(QStringLiteral("Err: Can't find saved key!")).size(), 1);
     }
 
-    void shouldKeepEachItemsOwnLayoutAndSurviveARestart()
+    void shouldKeepEachItemsOwnLayoutAcrossARestartAndAnExport()
     {
         ButtonLayoutConfig layouts;
         layouts.changeLayout(H_Key_6);
         ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
         {
             FavoriteKeyItemModel model;
-            std::unique_ptr<KeyItem> folder(new KeyItem(KAT_FOLDER, 7, V_Key_32));
-            QVERIFY(model.appendKeyItem(folder.get()));
+            KeyItem folder(KAT_FOLDER, 7, V_Key_32);
+            QVERIFY(model.appendKeyItem(&folder));
             std::unique_ptr<KeyItem> text(textKey(QStringLiteral("kept")));
             QVERIFY(model.appendKeyItem(text.get()));
-            QCOMPARE(model.keyItems().first()->layout, int(V_Key_32));
         }
         Settings reopened;
         QVERIFY(!reopened.loadedDefaults());
@@ -134,27 +130,18 @@ private slots:
         FavoriteKeyItemModel model;
         model.reloadKeyItemsFromSettings();
         QCOMPARE(model.count(), 2);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("mine.ksfavorites"));
+        QVERIFY(reopened.exportMyFavorite(path));
+        model.removeAll();
+        model.importFile(path);
+        QCOMPARE(model.count(), 2);
         QCOMPARE(model.keyItems().first()->layout, int(V_Key_32));
         QCOMPARE(textOf(model.keyItems().at(1)), QStringLiteral("kept"));
-        model.removeKeyItem(5);
+        model.removeKeyItem(5); // none there
         model.removeKeyItem(0);
         QCOMPARE(model.count(), 1);
         ObjectRegistry::registerObject(ComponentId::Settings, m_settings.get());
-    }
-
-    void shouldImportAnExportedFavouritesFile()
-    {
-        FavoriteKeyItemModel source;
-        std::unique_ptr<KeyItem> text(textKey(QStringLiteral("shared")));
-        QVERIFY(source.appendKeyItem(text.get()));
-        QTemporaryDir dir;
-        const QString path = dir.path() + QStringLiteral("/mine.ksfavorites");
-        QVERIFY(m_settings->exportMyFavorite(path));
-
-        source.removeAll();
-        source.importFile(path);
-        QCOMPARE(source.count(), 1);
-        QCOMPARE(textOf(source.keyItems().first()), QStringLiteral("shared"));
     }
 
 private:

@@ -46,24 +46,6 @@ private slots:
         QCOMPARE(parts.rest, rest);
     }
 
-    void shouldTellAddressesWithASchemeFromBareOnes_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("scheme");
-        QTest::newRow("https") << "https://example.org/a?b=c" << true;
-        QTest::newRow("mailto") << "mailto:someone@example.org" << true;
-        QTest::newRow("bare host") << "example.org" << false;
-        QTest::newRow("host and port") << "localhost:8080/x" << false;
-        QTest::newRow("path") << "example.org/a:b" << false;
-    }
-
-    void shouldTellAddressesWithASchemeFromBareOnes()
-    {
-        QFETCH(QString, text);
-        QFETCH(bool, scheme);
-        QCOMPARE(hasUrlScheme(text), scheme);
-    }
-
     void shouldStartAProgramInItsOwnDirectoryWithItsArguments()
     {
         const QString program = makeFile(QStringLiteral("run tool"), true);
@@ -111,6 +93,8 @@ private slots:
                                        << "http://localhost:8080";
         QTest::newRow("mail") << "mailto:someone@example.org"
                               << "mailto:someone@example.org";
+        QTest::newRow("colon in the path") << "example.org/a:b"
+                                           << "http://example.org/a:b";
     }
 
     void shouldOpenWebsites()
