@@ -10,6 +10,7 @@
 #include "logging.h"
 
 #include <QDebug>
+#include <typeinfo>
 
 KeyItem::KeyItem()
 {
@@ -79,6 +80,11 @@ void KeyItem::copyKeyAction(const KeyItem& src)
     for (int slot = 0; slot < SlotCount; ++slot) {
         if (!action[slot] || !src.action[slot])
             continue;
+        // The casts below read both objects as the source's class.
+        if (typeid(*action[slot]) != typeid(*src.action[slot])) {
+            LOG_MSG(QStringLiteral("ERROR: action classes differ, nothing copied!!"));
+            continue;
+        }
         switch (src.actionType) {
         case KAT_FOLDER:
             static_cast<KA_Folder&>(*action[slot]) = static_cast<const KA_Folder&>(*src.action[slot]);
