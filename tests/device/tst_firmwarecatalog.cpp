@@ -21,27 +21,18 @@ private slots:
     void shouldChooseTheFirmwareByLayout_data()
     {
         QTest::addColumn<int>("layout");
-        QTest::addColumn<bool>("vendorLibrary");
         QTest::addColumn<QString>("model");
+        QTest::addColumn<bool>("vendorLibrary");
         QTest::addColumn<QString>("firmwareId");
-        QTest::newRow("6 keys, horizontal") << 0 << false << "VKP-6P"
-                                            << "F28B23P1F43";
-        QTest::newRow("6 keys, vertical") << 1 << false << "VKP-6P"
-                                          << "F28B23P1F42";
-        QTest::newRow("15 keys, horizontal") << 2 << false << "VKP-15P"
-                                             << "F43B35P1F41";
-        QTest::newRow("15 keys, vertical") << 3 << false << "VKP-15P"
-                                           << "F43B35P1F40";
-        QTest::newRow("15 keys, maker's library") << 3 << true << "VKP-15P"
-                                                  << "VKP15-01-0";
-        QTest::newRow("32 keys, horizontal") << 4 << false << "VKP-32L"
-                                             << "F70B48P1F44";
-        QTest::newRow("32 keys, vertical") << 5 << false << "VKP-32L"
-                                           << "F70B48P1F44";
-        QTest::newRow("no layout") << -1 << false << "Unknown Device"
-                                   << "Unknown Device";
-        QTest::newRow("beyond the layouts") << 6 << false << "Unknown Device"
-                                            << "Unknown Device";
+        QTest::newRow("6 keys, horizontal") << 0 << "VKP-6P" << false << "F28B23P1F43";
+        QTest::newRow("6 keys, vertical") << 1 << "VKP-6P" << false << "F28B23P1F42";
+        QTest::newRow("15 keys, horizontal") << 2 << "VKP-15P" << false << "F43B35P1F41";
+        QTest::newRow("15 keys, vertical") << 3 << "VKP-15P" << false << "F43B35P1F40";
+        QTest::newRow("15 keys, maker's library") << 3 << "VKP-15P" << true << "VKP15-01-0";
+        QTest::newRow("32 keys, horizontal") << 4 << "VKP-32L" << false << "F70B48P1F44";
+        QTest::newRow("32 keys, vertical") << 5 << "VKP-32L" << false << "F70B48P1F44";
+        QTest::newRow("no layout") << -1 << "Unknown Device" << false << "Unknown Device";
+        QTest::newRow("beyond the layouts") << 6 << "Unknown Device" << false << "Unknown Device";
     }
 
     void shouldChooseTheFirmwareByLayout()

@@ -162,7 +162,11 @@ const GoldenFace Goldens[] = {
     {"title_hidden", KAT_MACROKEY, "Hidden", [](KeyRenderInfo& face, KeyItem&) { face.hintFlags = 0; }},
     {"default_image_missing", KAT_MACROKEY, "Alone",
      [](KeyRenderInfo& face, KeyItem&) { face.defImgPath = QStringLiteral("btn_no_such_image"); }},
-    {"slot_out_of_range", KAT_MACROKEY, "Slot", [](KeyRenderInfo&, KeyItem& item) { item.cfIdx = 5; }},
+    {"slot_out_of_range", KAT_MACROKEY, "Slot",
+     [](KeyRenderInfo&, KeyItem& item) {
+         item.render[1].text = QStringLiteral("Wrong");
+         item.cfIdx = 5;
+     }},
 };
 
 QString renderPath(const QString& file)

@@ -208,6 +208,7 @@ private slots:
         QTest::newRow("chunk without magic") << badMagic << false << LargeReport;
         QTest::newRow("chunk longer than its packet") << overlong << false << SmallReport;
         QTest::newRow("chunk far beyond any object") << farOff << false << LargeReport;
+        QTest::newRow("empty chunk") << dataChunk(LargeReport, 0, QByteArray()) << false << LargeReport;
         QTest::newRow("odd report size") << QByteArray(100, 0x02) << false << -1;
         QTest::newRow("empty report") << QByteArray() << false << -1;
         QTest::newRow("unknown feature id") << sized("\x33", 17) << true << -1;
