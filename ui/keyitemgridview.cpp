@@ -68,6 +68,7 @@ KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
         if (ButtonLayoutConfig::isValidLayout(config->currentLayout()))
             createKeyButtons(config->currentLayout());
     }
+    refreshAllKeys();
 }
 
 KeyItemGridView::~KeyItemGridView()
@@ -625,8 +626,10 @@ void KeyItemGridView::dropEvent(QDropEvent* event)
     emit closeFunctionDescription();
     if (content.kind == DragPayload::ActionType)
         controller_dropKeyItemFromActionList(content.actionType, idx);
-    else if (content.kind == DragPayload::GridItem)
+    else if (content.kind == DragPayload::GridItem && content.item->ownerList)
         controller_dropKeyItemFromKeyItemGridView(content.item, idx);
+    else if (content.kind == DragPayload::GridItem)
+        LOG_MSG(QStringLiteral("ERROR: dragged key was deleted meanwhile!!"));
     else
         controller_dropKeyItemFromFavoriteGridView(content.item, idx);
     event->setDropAction(Qt::MoveAction);
