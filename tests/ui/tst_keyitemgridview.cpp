@@ -208,6 +208,8 @@ private slots:
         QTest::mouseClick(grid->keyButton(1), Qt::LeftButton); // a selected folder opens
         QCOMPARE(model->actionTypeAt(14), int(KAT_LINK_BUTTON));
         QVERIFY(selected.isEmpty());
+        QTest::mouseClick(grid->keyButton(1), Qt::RightButton); // selects the key and offers its menu
+        QVERIFY(grid->selectedKeyIdx() == 1 && grid->contextMenu()->isVisible());
     }
 
     void shouldDropOntoKeys_data()
