@@ -9,6 +9,9 @@
 
 class KeyActionAbstr;
 
+// A key's position on its page in the editor's grid order; -1 for none.
+using KeyIdx = qint32;
+
 // One key on one page: its action type and, per feature slot, an action and a
 // face. Only a hotkey with multiFeatureFlag set ever uses slot 1; every other
 // item keeps cfIdx at 0.

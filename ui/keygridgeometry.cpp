@@ -1,0 +1,56 @@
+#include "keygridgeometry.h"
+
+#include "buttonlayoutconfig.h"
+#include "keylayout.h"
+
+#include <algorithm>
+
+QSize KeyGridGeometry::gridShape(int layout)
+{
+    switch (layout) {
+    case H_Key_6:
+        return {3, 2};
+    case V_Key_6:
+        return {2, 3};
+    case H_Key_15:
+        return {5, 3};
+    case V_Key_15:
+        return {3, 5};
+    case H_Key_32:
+        return {8, 4};
+    case V_Key_32:
+        return {4, 8};
+    default:
+        return {};
+    }
+}
+
+int KeyGridGeometry::spacing(const QSize& shape, const QSize& key, const QSize& panel)
+{
+    // Even gaps around and between keys on the tighter axis, kept within
+    // bounds so that small layouts stay a compact block.
+    const int horizontal = (panel.width() - shape.width() * key.width()) / (shape.width() + 1);
+    const int vertical = (panel.height() - shape.height() * key.height()) / (shape.height() + 1);
+    return std::clamp(std::min(horizontal, vertical), MinSpacing, MaxSpacing);
+}
+
+QVector<QRect> KeyGridGeometry::keyRects(int layout)
+{
+    QVector<QRect> rects;
+    const QSize shape = gridShape(layout);
+    if (!shape.isValid())
+        return rects;
+    const QSize key = ButtonLayoutConfig::iconSize(layout);
+    const QSize panel = ButtonLayoutConfig::panelSize(layout);
+    const int gap = spacing(shape, key, panel);
+    const QSize block(shape.width() * key.width() + (shape.width() - 1) * gap,
+                      shape.height() * key.height() + (shape.height() - 1) * gap);
+    const QPoint origin((panel.width() - block.width()) / 2, (panel.height() - block.height()) / 2);
+    for (int row = 0; row < shape.height(); ++row) {
+        for (int column = 0; column < shape.width(); ++column) {
+            const QPoint topLeft(origin.x() + column * (key.width() + gap), origin.y() + row * (key.height() + gap));
+            rects.append(QRect(topLeft, key));
+        }
+    }
+    return rects;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+#include <QVector>
+
+// Where the keys of a layout sit in the editor's key panel: row-major button
+// indices, every key the layout's icon size, the block centred in the panel
+// with one even spacing on both axes.
+class KeyGridGeometry
+{
+public:
+    static constexpr int MinSpacing = 4;
+    static constexpr int MaxSpacing = 20;
+
+    // Columns x rows as the user sees the keypad held that way; invalid for
+    // an unknown layout.
+    static QSize gridShape(int layout);
+    // One rectangle per button index, in panel coordinates; empty for an
+    // unknown layout.
+    static QVector<QRect> keyRects(int layout);
+
+private:
+    static int spacing(const QSize& shape, const QSize& key, const QSize& panel);
+};

@@ -1,0 +1,1018 @@
+#include "keyitemgridview.h"
+
+#include "buttonlayoutconfig.h"
+#include "dragpayload.h"
+#include "ka_folder.h"
+#include "keyactionabstr.h"
+#include "keyfacerenderer.h"
+#include "keygridcontextmenu.h"
+#include "keygridgeometry.h"
+#include "keyitemmodel.h"
+#include "logging.h"
+#include "objectregistry.h"
+#include "settings.h"
+#include "settingskeys.h"
+#include "userquestion.h"
+
+#include <QDrag>
+#include <QDragEnterEvent>
+#include <QHoverEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QTimer>
+
+namespace {
+
+constexpr char StateProperty[] = "state";
+constexpr char StateSelected[] = "true";
+constexpr char StateHovered[] = "hover";
+constexpr char StateNone[] = "false";
+
+// Light enough to stand out on the black key background and on key images.
+constexpr QRgb SelectionFrameColor = 0xff3da5ff;
+
+KA_Folder* folderOf(const KeyItem* item)
+{
+    return item && item->isFolder() ? qobject_cast<KA_Folder*>(item->action[0]) : nullptr;
+}
+
+} // namespace
+
+KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
+{
+    qRegisterMetaType<KeyIdx>("KeyIdx");
+    setObjectName(QStringLiteral("KeyItemGridView"));
+    setAttribute(Qt::WA_Hover);
+    setAcceptDrops(true);
+    setFocusPolicy(Qt::ClickFocus);
+    // The menu opens on the right button's release, after the key under it
+    // was selected; all right-button events must reach this widget.
+    setContextMenuPolicy(Qt::PreventContextMenu);
+
+    m_container = new QWidget(this);
+    m_container->setObjectName(QStringLiteral("KeyGridContainer"));
+
+    m_dragHoverTimer = new QTimer(this);
+    m_dragHoverTimer->setSingleShot(true);
+    m_dragHoverTimer->setInterval(DragHoverDelayMs);
+    connect(m_dragHoverTimer, &QTimer::timeout, this, &KeyItemGridView::onTimerTimeout);
+
+    m_menu = new KeyGridContextMenu(this);
+    connectMenu();
+
+    if (ButtonLayoutConfig* config = layouts()) {
+        if (ButtonLayoutConfig::isValidLayout(config->currentLayout()))
+            createKeyButtons(config->currentLayout());
+    }
+    refreshAllKeys();
+}
+
+KeyItemGridView::~KeyItemGridView()
+{
+    delete m_clipboard;
+}
+
+void KeyItemGridView::connectMenu()
+{
+    const struct
+    {
+        KeyGridContextMenu::Entry entry;
+        void (KeyItemGridView::*slot)(bool);
+    } handlers[] = {
+        {KeyGridContextMenu::NewFolder, &KeyItemGridView::onContextMenuTrigger_CreateFolder},
+        {KeyGridContextMenu::CreateHotkey, &KeyItemGridView::onContextMenuTrigger_CreateHotkey},
+        {KeyGridContextMenu::CreateMacro, &KeyItemGridView::onContextMenuTrigger_CreateMacrokey},
+        {KeyGridContextMenu::CreateLaunch, &KeyItemGridView::onContextMenuTrigger_CreateLaunch},
+        {KeyGridContextMenu::CreateWebsite, &KeyItemGridView::onContextMenuTrigger_CreateWebsite},
+        {KeyGridContextMenu::CreateTextString, &KeyItemGridView::onContextMenuTrigger_CreateTextString},
+        {KeyGridContextMenu::Cut, &KeyItemGridView::onContextMenuTrigger_Cut},
+        {KeyGridContextMenu::Copy, &KeyItemGridView::onContextMenuTrigger_Copy},
+        {KeyGridContextMenu::Delete, &KeyItemGridView::onContextMenuTrigger_Del},
+        {KeyGridContextMenu::Paste, &KeyItemGridView::onContextMenuTrigger_Paste},
+        {KeyGridContextMenu::SaveAsFavorite, &KeyItemGridView::onContextMenuTrigger_Favorite},
+    };
+    for (const auto& handler : handlers)
+        connect(m_menu->action(handler.entry), &QAction::triggered, this, handler.slot);
+}
+
+// ---- access ----
+
+void KeyItemGridView::setFavoriteInserter(std::function<bool(const KeyItem*)> inserter)
+{
+    m_favoriteInserter = std::move(inserter);
+}
+
+int KeyItemGridView::selectedKeyIdx() const
+{
+    return m_selectedIdx;
+}
+
+int KeyItemGridView::hoveredKeyIdx() const
+{
+    return m_hoveredIdx;
+}
+
+int KeyItemGridView::dragHoverKeyIdx() const
+{
+    return m_dragHoverIdx;
+}
+
+int KeyItemGridView::dragSourceKeyIdx() const
+{
+    return m_dragSourceIdx;
+}
+
+int KeyItemGridView::keyButtonCount() const
+{
+    return m_buttons.size();
+}
+
+QLabel* KeyItemGridView::keyButton(int idx) const
+{
+    return idx >= 0 && idx < m_buttons.size() ? m_buttons.at(idx) : nullptr;
+}
+
+const KeyItem* KeyItemGridView::clipboardItem() const
+{
+    return m_clipboard;
+}
+
+KeyGridContextMenu* KeyItemGridView::contextMenu() const
+{
+    return m_menu;
+}
+
+QSize KeyItemGridView::gridShape(int layout)
+{
+    return KeyGridGeometry::gridShape(layout);
+}
+
+KeyItemModel* KeyItemGridView::model() const
+{
+    return COMPONENT(KeyItemModel, ComponentId::KeyItemModel);
+}
+
+ButtonLayoutConfig* KeyItemGridView::layouts() const
+{
+    return COMPONENT(ButtonLayoutConfig, ComponentId::ButtonLayoutConfig);
+}
+
+int KeyItemGridView::layoutForNewItems(const KeyItemModel* model) const
+{
+    return ButtonLayoutConfig::currentLayoutOf(model->currentLayout());
+}
+
+bool KeyItemGridView::isLinkType(int actionType)
+{
+    return actionType == KAT_LINK_BUTTON || actionType == KAT_NUM;
+}
+
+bool KeyItemGridView::isKeyOnGrid(int idx) const
+{
+    if (idx >= m_buttons.size())
+        LOG_MSG(QStringLiteral("key idx >= current layout max key!"));
+    return idx >= 0 && idx < m_buttons.size();
+}
+
+int KeyItemGridView::keyIdxAt(const QPoint& pos) const
+{
+    for (int idx = 0; idx < m_buttons.size(); ++idx) {
+        if (m_buttons.at(idx)->geometry().translated(m_container->pos()).contains(pos))
+            return idx;
+    }
+    return -1;
+}
+
+// ---- buttons and faces ----
+
+void KeyItemGridView::changeLayoutButtonView(KeyLayout keyLayout)
+{
+    if (!ButtonLayoutConfig::isValidLayout(keyLayout)) {
+        LOG_MSG(QStringLiteral("ERROR: Invalid layout."));
+        return;
+    }
+    deleteKeyButtons();
+    createKeyButtons(keyLayout);
+    resizeMainWindow();
+    refreshAllKeys();
+}
+
+void KeyItemGridView::deleteKeyButtons()
+{
+    m_dragHoverTimer->stop();
+    m_selectedIdx = m_hoveredIdx = m_dragHoverIdx = m_dragSourceIdx = -1;
+    qDeleteAll(m_buttons);
+    m_buttons.clear();
+}
+
+void KeyItemGridView::createKeyButtons(int layout)
+{
+    m_layout = layout;
+    const QSize panel = ButtonLayoutConfig::panelSize(layout);
+    setFixedSize(panel);
+    m_container->setGeometry(QRect(QPoint(), panel));
+    for (const QRect& rect : KeyGridGeometry::keyRects(layout)) {
+        auto* button = new QLabel(m_container);
+        button->setObjectName(QStringLiteral("KeyButton"));
+        button->setAlignment(Qt::AlignCenter);
+        button->setGeometry(rect);
+        button->setFixedSize(rect.size());
+        button->show();
+        m_buttons.append(button);
+        setKeyState(m_buttons.size() - 1, StateNone);
+    }
+}
+
+void KeyItemGridView::resizeMainWindow()
+{
+    QWidget* top = window();
+    if (top == this)
+        return;
+    const bool visible = top->isVisible();
+    if (visible)
+        top->hide();
+    top->setFixedWidth(width() + MainWindowExtraWidth);
+    if (visible)
+        top->show();
+}
+
+void KeyItemGridView::onLayoutChanging(bool changing)
+{
+    m_layoutChanging = changing;
+    if (!changing)
+        refreshAllKeys();
+}
+
+void KeyItemGridView::resetAllButtonToDef()
+{
+    m_selectedIdx = m_hoveredIdx = -1;
+    for (int idx = 0; idx < m_buttons.size(); ++idx) {
+        showKey(idx, nullptr, false);
+        setKeyState(idx, StateNone);
+    }
+}
+
+void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
+{
+    QLabel* button = keyButton(buttonIdx);
+    if (!logMsgWhenRetFail(button != nullptr, QStringLiteral("button idx out of range: %1!!").arg(buttonIdx)))
+        return;
+    const QSize size = ButtonLayoutConfig::iconSize(m_layout);
+    QPixmap composed(size);
+    composed.fill(Qt::black);
+    QPainter painter(&composed);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!icon.isNull())
+        painter.drawPixmap(composed.rect(), icon);
+    if (selected) {
+        // Inside the key's own square: the grid spacing stays the same and
+        // the face's black margin takes the frame.
+        QPen pen(QColor::fromRgba(SelectionFrameColor), SelectionFrameWidth);
+        pen.setJoinStyle(Qt::MiterJoin);
+        painter.setPen(pen);
+        painter.setBrush(Qt::NoBrush);
+        const qreal inset = SelectionFrameWidth / 2.0;
+        painter.drawRect(QRectF(composed.rect()).adjusted(inset, inset, -inset, -inset));
+    }
+    painter.end();
+    button->setPixmap(composed);
+}
+
+void KeyItemGridView::showKey(int idx, const KeyItem* item, bool framed)
+{
+    // Faces are drawn as images (thread-safe); pixmaps only here.
+    QPixmap face = QPixmap::fromImage(item ? KeyFaceRenderer::render(item) : KeyFaceRenderer::blankFace());
+    setButtonIcon(idx, face, framed);
+}
+
+void KeyItemGridView::redrawKey(int idx, bool framed)
+{
+    if (!keyButton(idx))
+        return;
+    KeyItemModel* keyModel = model();
+    showKey(idx, keyModel ? keyModel->keyItemAt(idx) : nullptr, framed);
+}
+
+void KeyItemGridView::setKeyState(int idx, const char* state)
+{
+    QLabel* button = keyButton(idx);
+    if (!button)
+        return;
+    button->setProperty(StateProperty, QString::fromLatin1(state));
+    button->style()->unpolish(button);
+    button->style()->polish(button);
+}
+
+const char* KeyItemGridView::restingState(int idx) const
+{
+    if (idx == m_selectedIdx)
+        return StateSelected;
+    return idx == m_hoveredIdx ? StateHovered : StateNone;
+}
+
+void KeyItemGridView::refreshAllKeys()
+{
+    if (m_layoutChanging || m_buttons.isEmpty())
+        return;
+    KeyItemModel* keyModel = model();
+    if (!keyModel)
+        return;
+    const QList<KeyItem*>* list = keyModel->getCurrentLayoutListHead();
+    if (!logMsgWhenRetFail(list != nullptr, QStringLiteral("got null key item list!!")))
+        return;
+    QVector<const KeyItem*> byKey(m_buttons.size(), nullptr);
+    for (const KeyItem* item : *list) {
+        if (!item)
+            LOG_MSG(QStringLiteral("keyItem is nullptr!!"));
+        else if (item->keyIdx >= 0 && item->keyIdx < byKey.size())
+            byKey[item->keyIdx] = item;
+    }
+    for (int idx = 0; idx < m_buttons.size(); ++idx) {
+        showKey(idx, byKey.at(idx), idx == m_selectedIdx || idx == m_hoveredIdx);
+        setKeyState(idx, restingState(idx));
+    }
+}
+
+void KeyItemGridView::onUpdateContent(const KeyItem* item)
+{
+    // The model's notice for a whole page.
+    if (!item) {
+        refreshAllKeys();
+        return;
+    }
+    if (m_layoutChanging)
+        return;
+    if (item->keyIdx >= m_buttons.size()) {
+        LOG_MSG(QStringLiteral("key idx >= current layout max key!"));
+        return;
+    }
+    KeyItemModel* keyModel = model();
+    const QList<KeyItem*>* list = keyModel ? keyModel->getCurrentLayoutListHead() : nullptr;
+    // An item of a page not shown has no button.
+    if (item->keyIdx < 0 || !list || !list->contains(const_cast<KeyItem*>(item)))
+        return;
+    showKey(item->keyIdx, item, item->keyIdx == m_selectedIdx || item->keyIdx == m_hoveredIdx);
+    setKeyState(item->keyIdx, restingState(item->keyIdx));
+}
+
+// ---- selection and hover ----
+
+void KeyItemGridView::cancelSelectedKeyButton(bool showFunctionDescription)
+{
+    if (m_selectedIdx >= 0) {
+        const int previous = m_selectedIdx;
+        m_selectedIdx = -1;
+        redrawKey(previous, previous == m_hoveredIdx);
+        setKeyState(previous, restingState(previous));
+    }
+    if (showFunctionDescription)
+        emit buttonIdxChanged(-1);
+}
+
+void KeyItemGridView::cancelPreviousAndThenSelectKeyButton(int idx)
+{
+    cancelSelectedKeyButton(false);
+    if (!keyButton(idx))
+        return;
+    m_selectedIdx = idx;
+    redrawKey(idx, true);
+    setKeyState(idx, StateSelected);
+}
+
+void KeyItemGridView::cancelHoveredKeyButton()
+{
+    if (m_hoveredIdx >= 0 && m_hoveredIdx != m_selectedIdx) {
+        const int previous = m_hoveredIdx;
+        m_hoveredIdx = -1;
+        redrawKey(previous, false);
+        setKeyState(previous, StateNone);
+    }
+    m_hoveredIdx = -1;
+}
+
+void KeyItemGridView::cancelPreviousAndThenHoverKeyButton(int hoveringIdx)
+{
+    cancelHoveredKeyButton();
+    if (hoveringIdx == m_selectedIdx)
+        return;
+    m_hoveredIdx = hoveringIdx;
+    if (hoveringIdx >= 0) {
+        redrawKey(hoveringIdx, true);
+        setKeyState(hoveringIdx, StateHovered);
+    }
+}
+
+void KeyItemGridView::selectAndAnnounce(int idx)
+{
+    cancelPreviousAndThenSelectKeyButton(idx);
+    setFocus();
+    emit buttonIdxChanged(idx);
+}
+
+void KeyItemGridView::announceIfSelected(int idx)
+{
+    // The property form must not go on showing an item that changed type
+    // or went away.
+    if (idx >= 0 && idx == m_selectedIdx)
+        emit buttonIdxChanged(idx);
+}
+
+// ---- mouse and keyboard ----
+
+bool KeyItemGridView::event(QEvent* event)
+{
+    if (event->type() == QEvent::HoverMove) {
+        const int idx = keyIdxAt(static_cast<QHoverEvent*>(event)->pos());
+        if (idx != m_hoveredIdx) {
+            if (idx >= 0)
+                cancelPreviousAndThenHoverKeyButton(idx);
+            else
+                cancelHoveredKeyButton();
+        }
+    } else if (event->type() == QEvent::HoverLeave) {
+        cancelHoveredKeyButton();
+    }
+    return QWidget::event(event);
+}
+
+void KeyItemGridView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        m_pressPos = event->pos();
+        m_pressed = true;
+        setFocus();
+    }
+    event->accept();
+}
+
+void KeyItemGridView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool left = event->button() == Qt::LeftButton;
+    const bool right = event->button() == Qt::RightButton;
+    m_pressed = false;
+    if (!left && !right)
+        return;
+    controller_mousePress(event->pos(), right);
+    if (right)
+        showContextMenu(event->pos());
+    event->accept();
+}
+
+void KeyItemGridView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_pressed || !(event->buttons() & Qt::LeftButton))
+        return;
+    if ((event->pos() - m_pressPos).manhattanLength() < DragStartDistance)
+        return;
+    m_pressed = false;
+    KeyItemModel* keyModel = model();
+    const int idx = keyIdxAt(m_pressPos);
+    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    // The back key belongs to its place on the folder page.
+    if (item && item->actionType != KAT_INVALID && !isLinkType(item->actionType))
+        startDrag(idx, m_pressPos);
+}
+
+void KeyItemGridView::controller_mousePress(const QPoint& pos, bool rightButton)
+{
+    const int idx = keyIdxAt(pos);
+    if (idx < 0)
+        return;
+    if (idx != m_selectedIdx) {
+        selectAndAnnounce(idx);
+        return;
+    }
+    KeyItemModel* keyModel = model();
+    KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    if (item && (item->isFolder() || isLinkType(item->actionType))) {
+        if (!rightButton)
+            openPageOf(item);
+        return;
+    }
+    cancelPreviousAndThenSelectKeyButton(idx);
+    setFocus();
+}
+
+void KeyItemGridView::openPageOf(KeyItem* item)
+{
+    KeyActionAbstr* action = item->currentAction();
+    if (!logMsgWhenRetFail(action != nullptr, QStringLiteral("key has no action!!")))
+        return;
+    // A selection on the page left behind means nothing on the new one.
+    cancelSelectedKeyButton(false);
+    action->doAction(0);
+}
+
+void KeyItemGridView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->isAutoRepeat()) {
+        event->accept();
+        return;
+    }
+    const Qt::KeyboardModifiers modifiers =
+        event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool deleteKey = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    if (deleteKey && modifiers == Qt::NoModifier) {
+        controller_delEvent(m_selectedIdx, false);
+        event->accept();
+        return;
+    }
+    if (modifiers == Qt::ControlModifier && m_selectedIdx >= 0 && triggerShortcut(event->key())) {
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+bool KeyItemGridView::triggerShortcut(int qtKey)
+{
+    const KeyGridContextMenu::Entry entry = KeyGridContextMenu::entryForShortcut(qtKey);
+    if (entry == KeyGridContextMenu::EntryCount)
+        return false;
+    // The same rules as the menu: what it would not offer, the keys do not do.
+    if (updateContextMenuActions(m_selectedIdx) && m_menu->isShown(entry))
+        m_menu->action(entry)->trigger();
+    return true;
+}
+
+// ---- drag and drop ----
+
+void KeyItemGridView::startDrag(int idx, const QPoint& pressPos)
+{
+    KeyItemModel* keyModel = model();
+    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    if (!item)
+        return;
+    emit dragItem();
+    m_dragSourceIdx = idx;
+    auto* drag = new QDrag(this);
+    drag->setMimeData(DragPayload::itemMimeData(DragPayload::GridItemFormat, item));
+    const QRect keyRect = m_buttons.at(idx)->geometry().translated(m_container->pos());
+    drag->setPixmap(QPixmap::fromImage(KeyFaceRenderer::render(item))
+                        .scaled(keyRect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    drag->setHotSpot(pressPos - keyRect.topLeft());
+    drag->exec(Qt::MoveAction);
+    clearDragState();
+}
+
+void KeyItemGridView::clearDragState()
+{
+    m_dragHoverTimer->stop();
+    m_dragHoverIdx = -1;
+    m_dragSourceIdx = -1;
+}
+
+void KeyItemGridView::dragEnterEvent(QDragEnterEvent* event)
+{
+    const DragPayload::Content content = DragPayload::read(event->mimeData(), event->source() != nullptr);
+    if (content.kind == DragPayload::None) {
+        event->ignore();
+        return;
+    }
+    // A folder may not end up inside a folder, so hovering with one never
+    // makes or opens a folder.
+    m_dragIsFolder = content.actionType == KAT_FOLDER;
+    KeyItemModel* keyModel = model();
+    const bool onThisPage =
+        content.kind == DragPayload::GridItem && keyModel && keyModel->keyItemAt(content.item->keyIdx) == content.item;
+    m_dragSourceIdx = onThisPage ? content.item->keyIdx : -1;
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+    emit closeFunctionDescription();
+    setFocus();
+}
+
+void KeyItemGridView::dragMoveEvent(QDragMoveEvent* event)
+{
+    m_dragPos = event->pos();
+    const int idx = keyIdxAt(m_dragPos);
+    if (idx < 0)
+        cancelSelectedKeyButton(false);
+    else if (idx != m_selectedIdx)
+        cancelPreviousAndThenSelectKeyButton(idx);
+    if (idx != m_dragHoverIdx) {
+        m_dragHoverIdx = idx;
+        if (idx >= 0)
+            m_dragHoverTimer->start();
+        else
+            m_dragHoverTimer->stop();
+    }
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void KeyItemGridView::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    // Leaving the grid must not open the key that was last under the cursor.
+    m_dragHoverTimer->stop();
+    m_dragHoverIdx = -1;
+    event->accept();
+}
+
+void KeyItemGridView::dropEvent(QDropEvent* event)
+{
+    clearDragState();
+    const int idx = keyIdxAt(event->pos());
+    const DragPayload::Content content =
+        idx < 0 ? DragPayload::Content() : DragPayload::read(event->mimeData(), event->source() != nullptr);
+    if (content.kind == DragPayload::None) {
+        event->ignore();
+        return;
+    }
+    emit closeFunctionDescription();
+    if (content.kind == DragPayload::ActionType)
+        controller_dropKeyItemFromActionList(content.actionType, idx);
+    else if (content.kind == DragPayload::GridItem && content.item->ownerList)
+        controller_dropKeyItemFromKeyItemGridView(content.item, idx);
+    else if (content.kind == DragPayload::GridItem)
+        LOG_MSG(QStringLiteral("ERROR: dragged key was deleted meanwhile!!"));
+    else
+        controller_dropKeyItemFromFavoriteGridView(content.item, idx);
+    event->setDropAction(Qt::MoveAction);
+    event->accept();
+}
+
+void KeyItemGridView::onTimerTimeout()
+{
+    m_dragHoverTimer->stop();
+    KeyItemModel* keyModel = model();
+    if (!keyModel)
+        return;
+    const int idx = keyIdxAt(m_dragPos);
+    keyModel->beginUpdate();
+    bool changed = false;
+    const KeyItem* item = keyModel->keyItemAt(idx);
+    if (idx >= 0 && idx != m_dragSourceIdx && idx == m_dragHoverIdx && item)
+        changed = actOnDragHoverKey(keyModel, idx);
+    keyModel->endUpdate(changed);
+}
+
+bool KeyItemGridView::actOnDragHoverKey(KeyItemModel* keyModel, int idx)
+{
+    bool changed = false;
+    KeyItem* item = keyModel->keyItemAt(idx);
+    if (keyModel->isRootList()) {
+        if (m_dragIsFolder)
+            return false;
+        if (!item->isFolder())
+            changed = keyModel->keyItemBecomeFolder(idx);
+        item = keyModel->keyItemAt(idx);
+        if (!item || !item->isFolder())
+            return changed;
+    } else if (!isLinkType(item->actionType)) {
+        return false;
+    }
+    openPageOf(item);
+    m_dragHoverIdx = -1;
+    m_dragSourceIdx = -1;
+    return changed;
+}
+
+// ---- drops ----
+
+void KeyItemGridView::controller_dropKeyItemFromActionList(int actionType, int idx)
+{
+    LOG_MSG(QStringLiteral("actionType: %1, buttonIdx: %2").arg(actionType).arg(idx));
+    KeyItemModel* keyModel = model();
+    if (!keyModel || !isKeyOnGrid(idx))
+        return;
+    if (actionType < KAT_FOLDER || actionType > KAT_PASTE_STRING) {
+        LOG_MSG(QStringLiteral("illegal action!"));
+        return;
+    }
+    keyModel->beginUpdate();
+    auto* item = new KeyItem(KeyActionType(actionType), idx, layoutForNewItems(keyModel));
+    const KeyItem* occupant = keyModel->keyItemAt(idx);
+    const bool folder = actionType == KAT_FOLDER;
+    bool placed = false;
+    if (folder && !keyModel->isRootList())
+        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
+    else if (!occupant)
+        placed = keyModel->replaceKeyItem(item, idx);
+    else if (folder && occupant->isFolder())
+        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
+    if (!placed)
+        delete item;
+    keyModel->endUpdate(placed);
+    selectAndAnnounce(idx);
+}
+
+void KeyItemGridView::controller_dropKeyItemFromKeyItemGridView(KeyItem* item, int idx)
+{
+    KeyItemModel* keyModel = model();
+    if (!keyModel || !item || !isKeyOnGrid(idx))
+        return;
+    keyModel->beginUpdate();
+    // The back key stays in its place on its folder page.
+    if (item->actionType == KAT_INVALID || isLinkType(item->actionType)) {
+        LOG_MSG(QStringLiteral("illegal action!"));
+        keyModel->endUpdate(false);
+        return;
+    }
+    bool moved = false;
+    if (!keyModel->keyItemAt(idx))
+        moved = keyModel->replaceKeyItem(item, idx);
+    keyModel->endUpdate(moved);
+    selectAndAnnounce(idx);
+}
+
+void KeyItemGridView::controller_dropKeyItemFromFavoriteGridView(const KeyItem* item, int idx)
+{
+    KeyItemModel* keyModel = model();
+    if (!keyModel || !item || !isKeyOnGrid(idx))
+        return;
+    if (item->actionType == KAT_INVALID || isLinkType(item->actionType)) {
+        LOG_MSG(QStringLiteral("illegal action!"));
+        return;
+    }
+    if (item->isFolder() && !keyModel->isRootList()) {
+        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
+        return;
+    }
+    if (item->isFolder() && !confirmFavoriteLayout(item, keyModel))
+        return;
+    auto* copy = new KeyItem(item->actionType, -1, layoutForNewItems(keyModel));
+    *copy = *item;
+    copy->keyIdx = -1;
+    copy->parent = nullptr;
+    controller_dropKeyItemFromKeyItemGridView(copy, idx);
+    // Refused: no page took it.
+    if (!copy->ownerList)
+        delete copy;
+}
+
+bool KeyItemGridView::confirmFavoriteLayout(const KeyItem* favorite, const KeyItemModel* keyModel)
+{
+    if (favorite->layout <= layoutForNewItems(keyModel))
+        return true;
+    UserQuestion question;
+    question.subject = tr("The limit of folder is different.");
+    question.text = tr("If continues, some items may be lost. Are you sure you want to proceed?");
+    question.midText = tr("Cancel");
+    question.rightText = tr("Continue");
+    return UserQuestions::ask(question).buttonText != tr("Cancel");
+}
+
+// ---- edits ----
+
+void KeyItemGridView::setClipboard(KeyItem* copy)
+{
+    delete m_clipboard;
+    m_clipboard = copy;
+}
+
+void KeyItemGridView::controller_copyEvent(int idx)
+{
+    KeyItemModel* keyModel = model();
+    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    if (!item || isLinkType(item->actionType))
+        return;
+    auto* copy = new KeyItem(*item);
+    // The copy belongs to no page until it is pasted.
+    copy->parent = nullptr;
+    copy->ownerList = nullptr;
+    setClipboard(copy);
+}
+
+void KeyItemGridView::controller_pasteEvent(int idx)
+{
+    KeyItemModel* keyModel = model();
+    if (!m_clipboard || !keyModel || !isKeyOnGrid(idx))
+        return;
+    keyModel->beginUpdate();
+    const KeyItem* target = keyModel->keyItemAt(idx);
+    bool changed = false;
+    if (target && (target->isFolder() || isLinkType(target->actionType)))
+        LOG_MSG(QStringLiteral("can't paste onto this key!"));
+    else if (m_clipboard->isFolder() && !keyModel->isRootList())
+        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
+    else
+        changed = keyModel->copyKeyItem(m_clipboard, idx);
+    keyModel->endUpdate(changed);
+    if (changed)
+        announceIfSelected(idx);
+}
+
+void KeyItemGridView::controller_delEvent(int idx, bool ignoreConfirmationBox)
+{
+    KeyItemModel* keyModel = model();
+    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    if (!item || isLinkType(item->actionType))
+        return;
+    // Asked before the model is locked: the keypad's key presses go on
+    // while the question is open.
+    if (!ignoreConfirmationBox && !handleKB_DelConfirmMsgBox())
+        return;
+    keyModel->beginUpdate();
+    // The keypad may have changed the page meanwhile.
+    const bool stillThere = keyModel->keyItemAt(idx) == item;
+    if (stillThere)
+        emit closeFunctionDescription();
+    const bool deleted = stillThere && keyModel->deleteKeyItem(idx);
+    keyModel->endUpdate(deleted);
+    if (deleted)
+        announceIfSelected(idx);
+}
+
+bool KeyItemGridView::handleKB_DelConfirmMsgBox()
+{
+    Settings* settings = COMPONENT(Settings, ComponentId::Settings);
+    if (settings && settings->value(SettingsKeys::DeleteItemDontShowAgain, false).toBool())
+        return true;
+    UserQuestion question;
+    question.subject = tr("Are you sure you want to delete this item?");
+    question.text = tr("You can't undo this action.");
+    question.midText = tr("Cancel");
+    question.rightText = tr("Delete");
+    question.checkBoxText = tr("Don't ask me again");
+    const UserAnswer answer = UserQuestions::ask(question);
+    const bool agreed = answer.buttonText != tr("Cancel");
+    if (agreed && answer.checked && settings)
+        settings->setValue(SettingsKeys::DeleteItemDontShowAgain, true);
+    return agreed;
+}
+
+void KeyItemGridView::createNewAction(int actionType, int idx)
+{
+    KeyItemModel* keyModel = model();
+    if (!keyModel || !isKeyOnGrid(idx))
+        return;
+    if (actionType < KAT_FOLDER || actionType > KAT_PASTE_STRING) {
+        LOG_MSG(QStringLiteral("illegal action!"));
+        return;
+    }
+    if (actionType == KAT_FOLDER && !keyModel->isRootList()) {
+        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
+        return;
+    }
+    keyModel->beginUpdate();
+    const bool created = keyModel->createKeyAction(idx, KeyActionType(actionType));
+    keyModel->endUpdate(created);
+    if (created)
+        selectAndAnnounce(idx);
+}
+
+// ---- context menu ----
+
+bool KeyItemGridView::updateContextMenuActions(int idx)
+{
+    m_menu->setKeyIdx(idx);
+    if (idx < 0 || idx >= m_buttons.size())
+        return false;
+    KeyItemModel* keyModel = model();
+    if (!keyModel)
+        return false;
+    const KeyItem* item = keyModel->keyItemAt(idx);
+    if (item && isLinkType(item->actionType))
+        return false;
+    KeyGridContextMenu::Situation situation;
+    situation.emptyKey = !item;
+    situation.folderKey = item && item->isFolder();
+    situation.topLevel = keyModel->isRootList();
+    situation.clipboardHoldsItem = m_clipboard != nullptr;
+    m_menu->showEntriesFor(situation);
+    return true;
+}
+
+void KeyItemGridView::showContextMenu(const QPoint& pos)
+{
+    if (updateContextMenuActions(keyIdxAt(pos)))
+        m_menu->popup(mapToGlobal(pos));
+}
+
+int KeyItemGridView::menuKeyIdx() const
+{
+    return m_menu->keyIdx();
+}
+
+void KeyItemGridView::onTreeItemChanged(const KeyItem* item)
+{
+    if (!logMsgWhenRetFail(item != nullptr, QStringLiteral("keyItem is nullptr!!")))
+        return;
+    KeyItemModel* keyModel = model();
+    if (!keyModel)
+        return;
+    // A folder shows its own page; any other key the page it lives on.
+    KA_Folder* folder = item->isFolder() ? folderOf(item) : folderOf(item->parent);
+    keyModel->beginUpdate();
+    bool changed = false;
+    if (folder && keyModel->getCurrentLayoutListHead() != &folder->childList) {
+        keyModel->changeListHead(folder, &folder->childList);
+        changed = true;
+    } else if (!folder && !keyModel->isRootList()) {
+        keyModel->changeListToRoot();
+        changed = true;
+    }
+    keyModel->endUpdate(changed);
+    if (item->isFolder())
+        cancelSelectedKeyButton(false);
+    else
+        selectAndAnnounce(item->keyIdx);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Cut(bool)
+{
+    const int idx = menuKeyIdx();
+    if (idx < 0)
+        return;
+    controller_copyEvent(idx);
+    controller_delEvent(idx, true);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Copy(bool)
+{
+    const int idx = menuKeyIdx();
+    if (idx >= 0)
+        controller_copyEvent(idx);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Paste(bool)
+{
+    const int idx = menuKeyIdx();
+    if (idx >= 0)
+        controller_pasteEvent(idx);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Del(bool)
+{
+    const int idx = menuKeyIdx();
+    if (idx >= 0)
+        controller_delEvent(idx, false);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Rest(bool)
+{
+    const int idx = menuKeyIdx();
+    KeyItemModel* keyModel = model();
+    if (idx < 0 || !keyModel)
+        return;
+    keyModel->beginUpdate();
+    const KeyItem* item = keyModel->keyItemAt(idx);
+    const bool reset = item && !isLinkType(item->actionType) && keyModel->resetKeyItemToDefault(idx);
+    keyModel->endUpdate(reset);
+    if (reset)
+        announceIfSelected(idx);
+}
+
+void KeyItemGridView::onContextMenuTrigger_Favorite(bool)
+{
+    const int idx = menuKeyIdx();
+    KeyItemModel* keyModel = model();
+    const KeyItem* item = idx >= 0 && keyModel ? keyModel->keyItemAt(idx) : nullptr;
+    if (!item || isLinkType(item->actionType))
+        return;
+    if (!m_favoriteInserter) {
+        LOG_MSG(QStringLiteral("ERROR: nothing keeps favorites!!"));
+        return;
+    }
+    if (!m_favoriteInserter(item))
+        LOG_MSG(QStringLiteral("favorite not kept"));
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateFolder(bool)
+{
+    createNewAction(KAT_FOLDER, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateHotkey(bool)
+{
+    createNewAction(KAT_HOTKEY, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateMacrokey(bool)
+{
+    createNewAction(KAT_MACROKEY, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateLaunch(bool)
+{
+    createNewAction(KAT_EXE_APP_FILE, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateWebsite(bool)
+{
+    createNewAction(KAT_OPEN_WEBSITE, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_CreateTextString(bool)
+{
+    createNewAction(KAT_PASTE_STRING, menuKeyIdx());
+}
+
+void KeyItemGridView::onContextMenuTrigger_MoveToFolder(bool)
+{
+    const int idx = menuKeyIdx();
+    KeyItemModel* keyModel = model();
+    if (idx < 0 || !keyModel)
+        return;
+    keyModel->beginUpdate();
+    const KeyItem* item = keyModel->keyItemAt(idx);
+    const bool moved = item && !item->isFolder() && !isLinkType(item->actionType) && keyModel->keyItemBecomeFolder(idx);
+    keyModel->endUpdate(moved);
+    if (moved)
+        announceIfSelected(idx);
+}
