@@ -39,6 +39,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QShowEvent>
+#include <QStyle>
 #include <QTimer>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -302,6 +303,8 @@ void MainWindow::showKeypadStatus()
         return;
     if (m_hidComm->isOpened() && m_virtualKeypad && m_virtualKeypad->isActive()) {
         m_statusLine->setProperty("keypad", QStringLiteral("virtual"));
+        m_statusLine->style()->unpolish(m_statusLine);
+        m_statusLine->style()->polish(m_statusLine);
         setKeypadStatus(tr("Virtual keypad connected"));
         return;
     }

@@ -3,6 +3,7 @@
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
 #include "keyaction.h"
+#include "keygridgeometry.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "simulatedkeypad.h"
@@ -84,24 +85,10 @@ QLabel* VirtualKeypadWindow::key(int button) const
     return button >= 0 && button < m_keys.size() ? m_keys[button] : nullptr;
 }
 
+// The editor's arrangement: the user sees the same keys in both.
 QSize VirtualKeypadWindow::gridShape(int layout)
 {
-    switch (layout) {
-    case H_Key_6:
-        return {3, 2};
-    case V_Key_6:
-        return {2, 3};
-    case H_Key_15:
-        return {5, 3};
-    case V_Key_15:
-        return {3, 5};
-    case H_Key_32:
-        return {8, 4};
-    case V_Key_32:
-        return {4, 8};
-    default:
-        return {};
-    }
+    return KeyGridGeometry::gridShape(layout);
 }
 
 // The program maps a reported id to its button; the press must be the id
