@@ -25,6 +25,7 @@
 #include "trayicon.h"
 #include "updatedevicon.h"
 #include "virtualkey.h"
+#include "virtualkeypad.h"
 #include "windowsystem.h"
 
 #include <QApplication>
@@ -38,6 +39,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QShowEvent>
+#include <QStyle>
 #include <QTimer>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -87,6 +89,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     createDevice();
     createRuntime();
     setupTray();
+    setupVirtualKeypad();
 
     m_terminationSignals = new TerminationSignals(this);
     connect(m_terminationSignals, &TerminationSignals::terminationRequested, this, [this](int signalNumber) {
@@ -298,6 +301,13 @@ void MainWindow::showKeypadStatus()
 {
     if (!m_hidComm)
         return;
+    if (m_hidComm->isOpened() && m_virtualKeypad && m_virtualKeypad->isActive()) {
+        m_statusLine->setProperty("keypad", QStringLiteral("virtual"));
+        m_statusLine->style()->unpolish(m_statusLine);
+        m_statusLine->style()->polish(m_statusLine);
+        setKeypadStatus(tr("Virtual keypad connected"));
+        return;
+    }
     if (m_hidComm->isOpened()) {
         setKeypadStatus(tr("Keypad connected"));
         return;
@@ -363,6 +373,15 @@ void MainWindow::setupTray()
     m_tray->setVisible(true);
     if (!TrayIcon::isTrayAvailable())
         LOG_MSG(QStringLiteral("no system tray: closing the window minimises it"));
+}
+
+// The keypad on screen: the tray entry turns it on and off; "--virtual-keypad"
+// has installed it before the device thread started, and it is on from the start.
+void MainWindow::setupVirtualKeypad()
+{
+    m_virtualKeypad = new VirtualKeypad(m_hidComm, m_layoutConfig, this);
+    connect(m_tray, &TrayIcon::virtualKeypadToggled, m_virtualKeypad, &VirtualKeypad::setActive);
+    connect(m_virtualKeypad, &VirtualKeypad::activeChanged, m_tray, &TrayIcon::setVirtualKeypadChecked);
 }
 
 void MainWindow::setKeyPanelSize(const QSize& size)

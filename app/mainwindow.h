@@ -26,6 +26,7 @@ class QTranslator;
 class TerminationSignals;
 class TitleBar;
 class TrayIcon;
+class VirtualKeypad;
 class WindowSystem;
 
 // The editor window. It owns the log, builds and wires every subsystem, lives
@@ -93,6 +94,7 @@ private:
     void onButtonLayoutChanged(int layout);
     void tellUser(const QString& subject, const QString& text);
     void setupTray();
+    void setupVirtualKeypad();
     void hideToBackground();
     void toggleFromTray();
     void stopThreads();
@@ -112,6 +114,7 @@ private:
     QWidget* m_rightColumn = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
+    VirtualKeypad* m_virtualKeypad = nullptr;
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
     Hid_Comm* m_hidComm = nullptr;

@@ -6,6 +6,7 @@
 #include "metatypes.h"
 #include "myapplication.h"
 #include "settings.h"
+#include "simulatedkeypad.h"
 
 #include <QDebug>
 #include <QFile>
@@ -13,6 +14,37 @@
 #include <QSettings>
 #include <QThread>
 #include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+// The keypad of "--virtual-keypad". It is the transport before the device
+// thread starts, so no real keypad is ever opened; it goes only after the
+// main window, and with it the device thread, has gone.
+class StartupKeypad
+{
+public:
+    explicit StartupKeypad(bool wanted)
+    {
+        if (!wanted)
+            return;
+        m_keypad = std::make_unique<SimulatedKeypad>();
+        HidTransport::setInstance(m_keypad.get());
+    }
+    ~StartupKeypad()
+    {
+        if (m_keypad && HidTransport::instance() == m_keypad.get())
+            HidTransport::setInstance(nullptr);
+    }
+    StartupKeypad(const StartupKeypad&) = delete;
+    StartupKeypad& operator=(const StartupKeypad&) = delete;
+
+private:
+    std::unique_ptr<SimulatedKeypad> m_keypad;
+};
+
+} // namespace
 
 void Startup::setIdentity()
 {
@@ -84,6 +116,8 @@ int Startup::run(int& argc, char** argv)
     registerModelMetaTypes();
     applyStyleSheet();
 
+    // Declared before the window: it must outlive the device thread.
+    const StartupKeypad virtualKeypad(flags.virtualKeypad);
     MainWindow window(&settings, flags[RunInBackground]);
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.setAttribute(Qt::WA_TranslucentBackground);

@@ -1,8 +1,15 @@
 #include "startupflags.h"
 
-StartupFlags parseCommandLine(const QStringList& arguments)
+StartupFlags parseCommandLine(QStringList arguments)
 {
     StartupFlags result;
+    // Taken out first, so that it never hides the option the rest begins with.
+    for (int i = arguments.size() - 1; i >= 1; --i) {
+        if (arguments.at(i) == QLatin1String("--virtual-keypad")) {
+            arguments.removeAt(i);
+            result.virtualKeypad = true;
+        }
+    }
     if (arguments.size() < 2)
         return result;
 

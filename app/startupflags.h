@@ -18,11 +18,14 @@ struct StartupFlags
 {
     std::array<bool, StartupFlagCount> flags{};
     QString openFilePath;
+    // "--virtual-keypad", anywhere among the arguments.
+    bool virtualKeypad = false;
 
     bool operator[](StartupFlag flag) const { return flags[flag]; }
     void set(StartupFlag flag, bool on = true) { flags[flag] = on; }
 };
 
-// Only the first argument after the program name counts; the comparison is
-// exact and case-sensitive.
-StartupFlags parseCommandLine(const QStringList& arguments);
+// "--virtual-keypad" is taken out wherever it stands; of the rest only the
+// first argument after the program name counts. Comparisons are exact and
+// case-sensitive.
+StartupFlags parseCommandLine(QStringList arguments);

@@ -3,16 +3,20 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
+#include <QSignalBlocker>
 #include <QSystemTrayIcon>
 
 TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
 {
     m_menu = new QMenu();
     m_show = m_menu->addAction(tr("Show"));
+    m_virtualKeypad = m_menu->addAction(tr("Virtual Keypad"));
+    m_virtualKeypad->setCheckable(true);
     m_about = m_menu->addAction(tr("About"));
     m_menu->addSeparator();
     m_quit = m_menu->addAction(tr("Quit"));
     connect(m_show, &QAction::triggered, this, &TrayIcon::showRequested);
+    connect(m_virtualKeypad, &QAction::toggled, this, &TrayIcon::virtualKeypadToggled);
     connect(m_about, &QAction::triggered, this, &TrayIcon::aboutRequested);
     connect(m_quit, &QAction::triggered, this, &TrayIcon::quitRequested);
 
@@ -48,6 +52,17 @@ QMenu* TrayIcon::menu() const
 QAction* TrayIcon::showAction() const
 {
     return m_show;
+}
+
+QAction* TrayIcon::virtualKeypadAction() const
+{
+    return m_virtualKeypad;
+}
+
+void TrayIcon::setVirtualKeypadChecked(bool on)
+{
+    const QSignalBlocker blocker(m_virtualKeypad);
+    m_virtualKeypad->setChecked(on);
 }
 
 QAction* TrayIcon::quitAction() const

@@ -21,6 +21,7 @@ public:
     void setVisible(bool visible);
     QMenu* menu() const;
     QAction* showAction() const;
+    QAction* virtualKeypadAction() const;
     QAction* quitAction() const;
 
 signals:
@@ -28,11 +29,17 @@ signals:
     void toggleRequested();
     void aboutRequested();
     void quitRequested();
+    void virtualKeypadToggled(bool on);
+
+public slots:
+    // Shows the state without asking for it again.
+    void setVirtualKeypadChecked(bool on);
 
 private:
     QSystemTrayIcon* m_icon = nullptr;
     QMenu* m_menu = nullptr;
     QAction* m_show = nullptr;
+    QAction* m_virtualKeypad = nullptr;
     QAction* m_about = nullptr;
     QAction* m_quit = nullptr;
 };

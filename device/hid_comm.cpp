@@ -1,6 +1,7 @@
 #include "hid_comm.h"
 
 #include "buttonlayoutconfig.h"
+#include "hidtransport.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keypadids.h"
@@ -139,6 +140,10 @@ bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
     emit KeyboardStatusChange(false);
 
     const bool viaLibrary = pid == VendorDeviceLibrary::ProductId;
+    if (viaLibrary && ownProtocolOnly.load()) {
+        LOG_MSG(QStringLiteral("Error: the maker's library is not used with a simulated keypad, pid:%1 !").arg(pid));
+        return false;
+    }
     const int result = viaLibrary ? VendorDeviceLibrary::instance().openDevice(uint16_t(vid & 0xFFFF), uint16_t(pid))
                                   : device.vT_DeviceOpen(vid, pid);
     if (result != 0) {
@@ -163,6 +168,31 @@ void Hid_Comm::openFirstSupportedKeyboard()
         if (openSDKeyboard(KeypadIds::VendorId, pid))
             return;
     }
+}
+
+void Hid_Comm::switchTransport(HidTransport* transport)
+{
+    // The polling loop holds the gate while it reads.
+    if (!logMsgWhenRetFail(QThread::currentThread() != this, QStringLiteral("switchTransport on the device thread!!")))
+        return;
+    {
+        // The gate keeps the polling loop out, the mutex every other device
+        // call: nothing runs between closing the old handle and installing
+        // the new transport, so no handle ever reaches the wrong transport.
+        QMutexLocker gate(&readGate);
+        QMutexLocker locker(&deviceMutex);
+        closeDevice();
+        opened.store(false);
+        HidTransport::setInstance(transport);
+        ownProtocolOnly.store(transport != nullptr);
+    }
+    LOG_MSG(QStringLiteral("transport switched to %1")
+                .arg(transport ? QStringLiteral("another transport") : QStringLiteral("hidapi")));
+    emit KeyboardStatusChange(false);
+    openFirstSupportedKeyboard();
+    // The loop may sleep for a second while nothing is open.
+    QMutexLocker locker(&idleMutex);
+    idleWake.wakeAll();
 }
 
 void Hid_Comm::onKeyboardWasAdded(uint32_t vid, uint32_t pid)
@@ -246,19 +276,18 @@ void Hid_Comm::pollOwnProtocol()
         if (!opened.load() || vendorLibraryInUse.load())
             return;
         result = device.vT_ReadKeyButtonTimeout(&keys, PollTimeoutMs);
-    }
-    switch (result) {
-    case Err_Timeout:
-        return;
-    case Err_Success:
-        break;
-    case Err_ParamInvalid:
-        LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
-        return;
-    default:
         // A read error, or a handle that vanished under us: either way the
-        // keypad is gone until it arrives again.
-        deviceLost();
+        // keypad is gone until it arrives again. Closed under the gate, so a
+        // transport switch cannot come between the failed read and the close.
+        if (result != Err_Timeout && result != Err_Success && result != Err_ParamInvalid) {
+            deviceLost();
+            return;
+        }
+    }
+    if (result == Err_Timeout)
+        return;
+    if (result == Err_ParamInvalid) {
+        LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
         return;
     }
     if (paused.load()) {
@@ -314,13 +343,13 @@ void Hid_Comm::pollVendorLibrary()
         if (!opened.load() || !vendorLibraryInUse.load())
             return;
         result = VendorDeviceLibrary::instance().waitEvent(event, PollTimeoutMs);
+        if (result == VendorDeviceLibrary::EventReadFailure) {
+            deviceLost();
+            return;
+        }
     }
     if (result == VendorDeviceLibrary::EventNothing)
         return;
-    if (result == VendorDeviceLibrary::EventReadFailure) {
-        deviceLost();
-        return;
-    }
     if (result == VendorDeviceLibrary::EventParamInvalid) {
         LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
         return;

@@ -13,6 +13,7 @@
 #include <atomic>
 #include <cstdint>
 
+class HidTransport;
 class KeyItem;
 
 // The keypad connection: a thread that owns the one VTHidDev, polls the
@@ -38,6 +39,12 @@ public:
     bool isOpened() const { return opened.load(); }
     int currentLayout() const { return layout.load(); }
     bool openSDKeyboard(uint32_t vid, uint32_t pid);
+    // Closes the keypad through the transport that opened it, installs
+    // another (null: hidapi) and opens the first keypad it offers. Call it
+    // from the GUI thread, as the other device calls. Through any transport
+    // but hidapi the maker's library is never used: it bypasses transports
+    // and would reach a real keypad.
+    void switchTransport(HidTransport* transport);
 
     // The maker's library's own update call, its result as it gives it.
     int updateVendorFirmware(const QByteArray& image);
@@ -95,6 +102,7 @@ private:
     QMutex deviceMutex;
     std::atomic<int> layout{-1};
     std::atomic<bool> paused{false};
+    std::atomic<bool> ownProtocolOnly{false};
 
     // Held by the polling loop around each read, and by whatever replaces or
     // closes the handle from outside (opening, firmware updates): the handle

@@ -49,6 +49,31 @@ private slots:
         QCOMPARE(flags.openFilePath, path);
     }
 
+    // Taken out wherever it stands; the first-argument rule applies to the rest.
+    void shouldTakeTheVirtualKeypadOptionFromAnywhere_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("virtualKeypad");
+        QTest::addColumn<bool>("background");
+        QTest::newRow("before an option") << QStringList{"keystage", "--virtual-keypad", "--runinbk"} << true << true;
+        QTest::newRow("after an option") << QStringList{"keystage", "--runinbk", "--virtual-keypad"} << true << true;
+        QTest::newRow("case matters") << QStringList{"keystage", "--Virtual-Keypad", "--runinbk"} << false << false;
+        QTest::newRow("program name") << QStringList{"--virtual-keypad", "--runinbk"} << false << true;
+    }
+
+    void shouldTakeTheVirtualKeypadOptionFromAnywhere()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, virtualKeypad);
+        QFETCH(bool, background);
+        const StartupFlags flags = parseCommandLine(arguments);
+        QCOMPARE(flags.virtualKeypad, virtualKeypad);
+        QCOMPARE(flags[RunInBackground], background);
+        const StartupFlags open = parseCommandLine({"keystage", "--openFile", "--virtual-keypad", "a.kslayout"});
+        QVERIFY(open.virtualKeypad && open[OpenFile]);
+        QCOMPARE(open.openFilePath, QStringLiteral("a.kslayout"));
+    }
+
     void shouldQuitAtOnceWhenAnotherInstanceRunsAndNoWaitIsAsked()
     {
         int sleeps = 0;

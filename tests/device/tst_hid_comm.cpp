@@ -1,6 +1,7 @@
 #include "hid_comm.h"
 #include "keyeventrecorder.h"
 #include "logcapture.h"
+#include "recordingtransport.h"
 #include "simulatedkeypad.h"
 #include "testmain.h"
 
@@ -40,6 +41,9 @@ private:
     SimulatedKeypad* keypad = nullptr;
     std::unique_ptr<Hid_Comm> hid;
     std::unique_ptr<KeyEventRecorder> recorder;
+    // Transports a test switches to; they outlive the connection.
+    std::unique_ptr<RecordingTransport> recording;
+    std::unique_ptr<SimulatedKeypad> other;
 
     // The connection with a layout chosen (-1: none yet), once it has opened
     // the keypad.
@@ -63,7 +67,9 @@ private slots:
     {
         recorder.reset();
         hid.reset();
+        recording.reset();
         HidTransport::setInstance(nullptr);
+        other.reset();
         delete keypad;
     }
 
@@ -153,6 +159,45 @@ private slots:
         hid->onKeyboardWasAdded(0xFFFF, 0x1F41);
         QVERIFY(hid->isOpened());
         QTRY_COMPARE(recorder->events.last(), QStringLiteral("connected"));
+    }
+
+    // The recording transport stands for hidapi. Each keypad refuses and
+    // counts a call with a handle it did not give out.
+    void shouldSwitchTransportsWithoutAHandleCrossingOver()
+    {
+        recording = std::make_unique<RecordingTransport>();
+        QVERIFY(start());
+        hid->switchTransport(keypad);
+        QVERIFY(hid->isOpened());
+        QCOMPARE(recording->closes, recording->opens);
+        recording->clearCalls();
+        QVERIFY(hid->sendIcon(3, markedImage(), false));
+
+        other = std::make_unique<SimulatedKeypad>(0x1F44);
+        hid->switchTransport(other.get());
+        QVERIFY(hid->isOpened());
+        QCOMPARE(keypad->openHandleCount(), 0);
+        QCOMPARE(other->openHandleCount(), 1);
+        QVERIFY(hid->sendIcon(5, markedImage(), false));
+        other->pressKey(6);
+        other->releaseKey(6);
+        QTRY_COMPARE(recorder->keyEvents(), (QStringList{"press 7", "release 7"}));
+        QCOMPARE(other->keysWithImages(), QList<int>{5});
+        QCOMPARE(keypad->keysWithImages(), QList<int>{3});
+        QVERIFY(recording->calls(RecordingTransport::Read).isEmpty()); // the polling loop moved on
+        QVERIFY(recording->calls(RecordingTransport::Write).isEmpty());
+
+        // A simulated keypad that is not there never leads to the maker's
+        // library, which would reach a real keypad.
+        LogCapture capture;
+        other->unplug();
+        hid->switchTransport(other.get());
+        QVERIFY(!hid->isOpened());
+        QVERIFY(!capture.matching(QStringLiteral("not used with a simulated keypad")).isEmpty());
+        hid->switchTransport(keypad);
+        QVERIFY(hid->isOpened());
+        QCOMPARE(keypad->errorCount() + other->errorCount(), 0);
+        QCOMPARE(other->openHandleCount(), 0);
     }
 
     void shouldShowEveryKeyNumberedAndTurnedForItsLayout_data()

@@ -1,0 +1,124 @@
+#include "virtualkeypad.h"
+
+#include "buttonlayoutconfig.h"
+#include "hid_comm.h"
+#include "hidtransport.h"
+#include "logging.h"
+#include "simulatedkeypad.h"
+#include "virtualkeypadwindow.h"
+
+#include <QScreen>
+#include <QTimer>
+#include <QWidget>
+
+namespace {
+constexpr int WindowGap = 16;
+} // namespace
+
+VirtualKeypad::VirtualKeypad(Hid_Comm* hid, ButtonLayoutConfig* layouts, QWidget* mainWindow)
+    : QObject(mainWindow), m_hid(hid), m_layouts(layouts), m_mainWindow(mainWindow)
+{
+    if (layouts)
+        connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, this,
+                [this](KeyLayout layout) { onLayoutChanged(layout); });
+    if (auto* installed = dynamic_cast<SimulatedKeypad*>(HidTransport::instance())) {
+        m_keypad = installed;
+        // Once the main window is up, so that the keypad can stand beside it.
+        QTimer::singleShot(0, this, [this] { setActive(true); });
+    }
+}
+
+VirtualKeypad::~VirtualKeypad()
+{
+    m_window.reset();
+    // A keypad of our own must not stay installed once it is gone.
+    if (m_ownKeypad && HidTransport::instance() == m_keypad) {
+        if (m_hid)
+            m_hid->switchTransport(nullptr);
+        else
+            HidTransport::setInstance(nullptr);
+    }
+}
+
+unsigned short VirtualKeypad::productIdForLayout(int layout)
+{
+    switch (layout) {
+    case H_Key_6:
+        return 0x1F43;
+    case V_Key_6:
+        return 0x1F42;
+    case H_Key_15:
+        return 0x1F41;
+    case V_Key_15:
+        return 0x1F40;
+    case H_Key_32:
+    case V_Key_32:
+        return 0x1F44;
+    default:
+        return SimulatedKeypad::DefaultProductId;
+    }
+}
+
+int VirtualKeypad::currentLayout() const
+{
+    return m_layouts ? m_layouts->currentLayout()
+                     : ButtonLayoutConfig::currentLayoutOf(ButtonLayoutConfig::DefaultLayout);
+}
+
+void VirtualKeypad::setActive(bool active)
+{
+    if (active == m_active)
+        return;
+    if (!logMsgWhenRetFail(!m_hid.isNull(), QStringLiteral("Hid_Comm is nullptr!!"))) {
+        emit activeChanged(m_active);
+        return;
+    }
+    m_active = active;
+    if (active) {
+        const unsigned short productId = productIdForLayout(currentLayout());
+        if (!m_keypad) {
+            m_ownKeypad = std::make_unique<SimulatedKeypad>(productId);
+            m_keypad = m_ownKeypad.get();
+        }
+        m_keypad->setProductId(productId);
+        if (!m_window) {
+            m_window = std::make_unique<VirtualKeypadWindow>(m_keypad, m_layouts);
+            connect(m_window.get(), &VirtualKeypadWindow::closed, this, [this] { setActive(false); });
+        }
+        m_hid->switchTransport(m_keypad);
+        showWindow();
+    } else {
+        if (m_window)
+            m_window->hide();
+        m_hid->switchTransport(nullptr);
+    }
+    LOG_MSG(QStringLiteral("virtual keypad %1").arg(active ? QStringLiteral("on") : QStringLiteral("off")));
+    emit activeChanged(active);
+}
+
+// Each layout belongs to a model; the keypad becomes that model, as if the
+// user had plugged in another one.
+void VirtualKeypad::onLayoutChanged(int layout)
+{
+    const unsigned short productId = productIdForLayout(layout);
+    if (!m_active || !m_hid || m_keypad->productId() == productId)
+        return;
+    m_keypad->setProductId(productId);
+    m_hid->switchTransport(m_keypad);
+}
+
+void VirtualKeypad::showWindow()
+{
+    m_window->adjustSize();
+    if (m_mainWindow && m_mainWindow->isVisible() && !m_mainWindow->isMinimized()) {
+        const QRect main = m_mainWindow->frameGeometry();
+        const QRect screen = m_mainWindow->screen()->availableGeometry();
+        const int width = m_window->frameGeometry().width();
+        int x = main.right() + WindowGap;
+        if (x + width > screen.right())
+            x = main.left() - WindowGap - width;
+        m_window->move(qMax(screen.left(), x), main.top());
+    }
+    m_window->show();
+    m_window->raise();
+}
