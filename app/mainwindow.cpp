@@ -1,18 +1,23 @@
 #include "mainwindow.h"
 
+#include "actionlist.h"
 #include "buttonlayoutconfig.h"
 #include "clicklabel.h"
 #include "dialog.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
+#include "formarea.h"
+#include "functiondescription.h"
 #include "hid_comm.h"
 #include "ipc_thread.h"
 #include "keyaction.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
+#include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
 #include "keypadmonitor.h"
+#include "layoutmenu.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "runtimeactionservices.h"
@@ -23,6 +28,7 @@
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "trayicon.h"
+#include "treeview.h"
 #include "updatedevicon.h"
 #include "virtualkey.h"
 #include "virtualkeypad.h"
@@ -30,6 +36,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDebug>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -55,15 +62,6 @@ const QSize DefaultKeyPanelSize(466, 523);
 // The visible frame's border, drawn by the style sheet around the content.
 constexpr int FrameBorder = 1;
 
-QLabel* placeholder(const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(QStringLiteral("PlaceholderText"));
-    label->setAlignment(Qt::AlignCenter);
-    label->setWordWrap(true);
-    return label;
-}
-
 } // namespace
 
 MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* parent)
@@ -86,6 +84,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     KeyFaceRenderer::ensureFontsLoaded();
     buildWindow();
     createModel();
+    buildEditor();
     createDevice();
     createRuntime();
     setupTray();
@@ -158,8 +157,9 @@ void MainWindow::buildWindow()
     m_keyPanel->setObjectName(QStringLiteral("KeyPanel"));
     m_keyPanel->setAttribute(Qt::WA_StyledBackground);
     left->addWidget(m_keyPanel);
-    m_statusLine = new QLabel(tr("No keypad connected"), frame);
+    m_statusLine = new QLabel(frame);
     m_statusLine->setObjectName(QStringLiteral("StatusLine"));
+    setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
     m_statusLine->setContentsMargins(12, 4, 12, 6);
     left->addWidget(m_statusLine);
     content->addLayout(left);
@@ -169,9 +169,6 @@ void MainWindow::buildWindow()
     m_rightColumn->setAttribute(Qt::WA_StyledBackground);
     // The frame's border belongs to the column's 400 pixels.
     m_rightColumn->setFixedWidth(RightColumnWidth - 2 * FrameBorder);
-    auto* column = new QVBoxLayout(m_rightColumn);
-    column->addWidget(
-        placeholder(tr("Drag an action from above list and drop into section on the left."), m_rightColumn));
     content->addWidget(m_rightColumn);
     frameLayout->addLayout(content, 1);
 
@@ -201,6 +198,77 @@ void MainWindow::createModel()
     m_keyItemModel->reloadKeyItemsFromSettings();
     m_favorites->reloadKeyItemsFromSettings();
     m_layoutConfig->reloadLayout();
+}
+
+// The editor: the key grid on the left; on the right the action palette, the
+// form area and the folder tree. The layout in force was read before, so the
+// grid is built for it here.
+void MainWindow::buildEditor()
+{
+    auto* panelLayout = new QVBoxLayout(m_keyPanel);
+    panelLayout->setContentsMargins(0, 0, 0, 0);
+    m_grid = new KeyItemGridView(m_keyPanel);
+    panelLayout->addWidget(m_grid);
+
+    auto* column = new QVBoxLayout(m_rightColumn);
+    column->setContentsMargins(8, 8, 8, 8);
+    column->setSpacing(8);
+    m_actionList = new ActionList(m_rightColumn);
+    m_formArea = new FormArea(m_rightColumn);
+    m_treeView = new TreeView(m_rightColumn);
+    column->addWidget(m_actionList);
+    column->addWidget(m_formArea, 3);
+    column->addWidget(m_treeView, 2);
+    m_layoutMenu = new LayoutMenu(this);
+
+    connectEditor();
+    m_grid->changeLayoutButtonView(KeyLayout(m_layoutConfig->currentLayout()));
+    m_layoutMenu->setCurrentLayout(m_layoutConfig->currentLayout());
+    m_treeView->onUpdateContent(nullptr);
+    showFunctionDescription(FormArea::NoDescription, false);
+}
+
+// The model may change on the key action thread (folders opened from the
+// keypad), so the views hear of it queued.
+void MainWindow::connectEditor()
+{
+    connect(m_keyItemModel, &KeyItemModel::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
+            Qt::QueuedConnection);
+    connect(m_keyItemModel, &KeyItemModel::updateContent, m_treeView, &TreeView::onUpdateContent, Qt::QueuedConnection);
+    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_grid, &KeyItemGridView::changeLayoutButtonView);
+    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_layoutMenu,
+            [this](KeyLayout layout) { m_layoutMenu->setCurrentLayout(layout); });
+
+    connect(m_grid, &KeyItemGridView::buttonIdxChanged, m_treeView, &TreeView::onButtonIdxChanged);
+    connect(m_grid, &KeyItemGridView::buttonIdxChanged, m_actionList, &ActionList::onButtonViewIndexChanged);
+    connect(m_grid, &KeyItemGridView::buttonIdxChanged, this, &MainWindow::onKeySelected);
+    connect(m_grid, &KeyItemGridView::closeFunctionDescription, m_formArea, &FormArea::closeFunctionDescription);
+    connect(m_treeView, &TreeView::treeItemChanged, m_grid, &KeyItemGridView::onTreeItemChanged);
+    m_grid->setFavoriteInserter([this](const KeyItem* item) { return m_favorites->appendKeyItem(item); });
+
+    connect(m_actionList, &ActionList::actionItemSelected, this, [this](int actionType) {
+        if (actionType >= 0)
+            showFunctionDescription(actionType, true);
+    });
+    connect(m_actionList, &ActionList::preferenceRequested, this, [this] { m_layoutMenu->popup(QCursor::pos()); });
+    connect(m_actionList, &ActionList::favoriteWindowRequested, this,
+            [] { LOG_MSG(QStringLiteral("My Favorite window requested")); });
+    connect(m_layoutMenu, &LayoutMenu::layoutChosen, m_layoutConfig, &ButtonLayoutConfig::changeLayout);
+}
+
+void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
+{
+    if (cancelSelection)
+        m_grid->cancelSelectedKeyButton(false);
+    m_formArea->showFunctionDescription(actionType);
+}
+
+// Until the property forms exist, a selected key shows what its action does;
+// an empty key shows how to give it one.
+void MainWindow::onKeySelected(int keyIdx)
+{
+    const int type = m_keyItemModel->actionTypeAt(keyIdx);
+    showFunctionDescription(type >= KAT_FOLDER && type <= KAT_PASTE_STRING ? type : FormArea::NoDescription, false);
 }
 
 // The keypad connection starts polling at once; the layout in force reaches
@@ -250,6 +318,7 @@ void MainWindow::createRuntime()
     m_keyAction = new KeyAction;
     connect(m_hidComm, &Hid_Comm::keyPressed, m_keyAction, &KeyAction::onKeyPressed, Qt::QueuedConnection);
     connect(m_hidComm, &Hid_Comm::keyReleased, m_keyAction, &KeyAction::onKeyRleased, Qt::QueuedConnection);
+    connect(m_keyAction, &KeyAction::updateContent, m_grid, &KeyItemGridView::onUpdateContent, Qt::QueuedConnection);
 
     m_folderCondition = new FolderCondition(FolderConditionIntervalMs, this);
 }
@@ -302,23 +371,21 @@ void MainWindow::showKeypadStatus()
     if (!m_hidComm)
         return;
     if (m_hidComm->isOpened() && m_virtualKeypad && m_virtualKeypad->isActive()) {
-        m_statusLine->setProperty("keypad", QStringLiteral("virtual"));
-        m_statusLine->style()->unpolish(m_statusLine);
-        m_statusLine->style()->polish(m_statusLine);
-        setKeypadStatus(tr("Virtual keypad connected"));
+        setKeypadStatus(tr("Virtual keypad connected"), QStringLiteral("virtual"));
         return;
     }
     if (m_hidComm->isOpened()) {
-        setKeypadStatus(tr("Keypad connected"));
+        setKeypadStatus(tr("Keypad connected"), QStringLiteral("connected"));
         return;
     }
     const KeypadAccess::Result access = KeypadAccess::check();
     if (access.status == KeypadAccess::NoPermission) {
         LOG_MSG(QStringLiteral("keypad at %1 cannot be opened: no permission").arg(access.nodePath));
-        setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()));
+        setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()),
+                        QStringLiteral("denied"));
         return;
     }
-    setKeypadStatus(tr("No keypad connected"));
+    setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
 }
 
 // A null item stands for the whole page (a folder opened, a layout change).
@@ -401,9 +468,39 @@ QWidget* MainWindow::rightColumn() const
     return m_rightColumn;
 }
 
-void MainWindow::setKeypadStatus(const QString& text)
+void MainWindow::setKeypadStatus(const QString& text, const QString& state)
 {
     m_statusLine->setText(text);
+    if (state.isEmpty() || m_statusLine->property("keypad").toString() == state)
+        return;
+    m_statusLine->setProperty("keypad", state);
+    m_statusLine->style()->unpolish(m_statusLine);
+    m_statusLine->style()->polish(m_statusLine);
+}
+
+KeyItemGridView* MainWindow::keyGrid() const
+{
+    return m_grid;
+}
+
+ActionList* MainWindow::actionList() const
+{
+    return m_actionList;
+}
+
+FormArea* MainWindow::formArea() const
+{
+    return m_formArea;
+}
+
+TreeView* MainWindow::treeView() const
+{
+    return m_treeView;
+}
+
+VirtualKeypad* MainWindow::virtualKeypad() const
+{
+    return m_virtualKeypad;
 }
 
 Log* MainWindow::log()

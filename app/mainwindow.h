@@ -6,9 +6,11 @@
 #include <QWidget>
 #include <memory>
 
+class ActionList;
 class ButtonLayoutConfig;
 class FavoriteKeyItemModel;
 class FolderCondition;
+class FormArea;
 class Hid_Comm;
 class KeyAction;
 class RuntimeActionServices;
@@ -17,7 +19,9 @@ class KeypadMonitor;
 class SleepMonitor;
 class KeyItem;
 class IPC_Thread;
+class KeyItemGridView;
 class KeyItemModel;
+class LayoutMenu;
 class Settings;
 class QLabel;
 class QSettings;
@@ -26,6 +30,7 @@ class QTranslator;
 class TerminationSignals;
 class TitleBar;
 class TrayIcon;
+class TreeView;
 class VirtualKeypad;
 class WindowSystem;
 
@@ -56,7 +61,15 @@ public:
     void setKeyPanelSize(const QSize& size);
     QWidget* keyPanel() const;
     QWidget* rightColumn() const;
-    void setKeypadStatus(const QString& text);
+    // The status line's text, and its look: "connected", "absent", "denied"
+    // or "virtual".
+    void setKeypadStatus(const QString& text, const QString& state = QString());
+
+    KeyItemGridView* keyGrid() const;
+    ActionList* actionList() const;
+    FormArea* formArea() const;
+    TreeView* treeView() const;
+    VirtualKeypad* virtualKeypad() const;
 
     Log* log();
     KeyItemModel* keyItemModel() const;
@@ -73,6 +86,9 @@ public slots:
     // Quits cleanly: threads stopped, settings written, then the event loop ends.
     void quitApplication();
     void restartApplication();
+    // The description of an action type in the form area (the drag hint for
+    // any other type); with cancelSelection the key grid's selection goes.
+    void showFunctionDescription(int actionType, bool cancelSelection);
     void onLayoutImported(const QVariantMap& page);
     void onFavoritesImported(const QVariantMap& favorites);
 
@@ -85,6 +101,9 @@ protected:
 private:
     void buildWindow();
     void createModel();
+    void buildEditor();
+    void connectEditor();
+    void onKeySelected(int keyIdx);
     void createDevice();
     void createRuntime();
     void watchForegroundApplications(bool background);
@@ -112,6 +131,11 @@ private:
     TitleBar* m_titleBar = nullptr;
     QWidget* m_keyPanel = nullptr;
     QWidget* m_rightColumn = nullptr;
+    KeyItemGridView* m_grid = nullptr;
+    ActionList* m_actionList = nullptr;
+    FormArea* m_formArea = nullptr;
+    TreeView* m_treeView = nullptr;
+    LayoutMenu* m_layoutMenu = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
     VirtualKeypad* m_virtualKeypad = nullptr;

@@ -18,7 +18,9 @@ public:
     // A stored language index outside 0..5 means no translation (-1).
     static int checkedLanguageIndex(int stored);
 
+    // The application's look: the style sheet compiled into the program.
+    static void applyStyleSheet();
+
 private:
     static void setIdentity();
-    static void applyStyleSheet();
 };

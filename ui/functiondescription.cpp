@@ -73,7 +73,6 @@ void FunctionDescription::buildLabels()
     m_image->setAlignment(Qt::AlignCenter);
     m_title = new QLabel(this);
     m_title->setObjectName(QStringLiteral("FunctionDescriptionTitle"));
-    m_title->setWordWrap(true); // the drag hint is all heading
     m_text = new QLabel(this);
     m_text->setObjectName(QStringLiteral("FunctionDescriptionText"));
     m_text->setWordWrap(true);
@@ -91,11 +90,12 @@ void FunctionDescription::showContent()
     m_image->setPixmap(picture);
     m_image->setVisible(!picture.isNull());
 
+    // A heading line, then the body; the drag hint is body text alone.
     const QString text = descriptionText(m_actionType);
     const int lineEnd = text.indexOf(QLatin1Char('\n'));
-    m_title->setText(lineEnd < 0 ? text : text.left(lineEnd));
-    m_text->setText(lineEnd < 0 ? QString() : text.mid(lineEnd + 1));
-    m_text->setVisible(!m_text->text().isEmpty());
+    m_title->setText(lineEnd < 0 ? QString() : text.left(lineEnd));
+    m_text->setText(text.mid(lineEnd + 1));
+    m_title->setVisible(!m_title->text().isEmpty());
 }
 
 void FunctionDescription::updateContent(const KeyItem* item)

@@ -40,7 +40,7 @@ QVector<QRect> KeyGridGeometry::keyRects(int layout)
     const QSize shape = gridShape(layout);
     if (!shape.isValid())
         return rects;
-    const QSize key = ButtonLayoutConfig::iconSize(layout);
+    const QSize key = ButtonLayoutConfig::iconSize(layout) + QSize(2 * Bezel, 2 * Bezel);
     const QSize panel = ButtonLayoutConfig::panelSize(layout);
     const int gap = spacing(shape, key, panel);
     const QSize block(shape.width() * key.width() + (shape.width() - 1) * gap,

@@ -5,13 +5,16 @@
 #include <QVector>
 
 // Where the keys of a layout sit in the editor's key panel: row-major button
-// indices, every key the layout's icon size, the block centred in the panel
+// indices, every key the layout's icon size plus a bezel on each side (the
+// style sheet draws the key's frame there), the block centred in the panel
 // with one even spacing on both axes.
 class KeyGridGeometry
 {
 public:
     static constexpr int MinSpacing = 4;
     static constexpr int MaxSpacing = 20;
+    // Border and padding of a key button around its face.
+    static constexpr int Bezel = 4;
 
     // Columns x rows as the user sees the keypad held that way; invalid for
     // an unknown layout.

@@ -33,7 +33,8 @@ constexpr char StateHovered[] = "hover";
 constexpr char StateNone[] = "false";
 
 // Light enough to stand out on the black key background and on key images.
-constexpr QRgb SelectionFrameColor = 0xff3da5ff;
+// The style sheet's accent, so the frame and the key's selected border agree.
+constexpr QRgb SelectionFrameColor = 0xff38c9bb;
 
 KA_Folder* folderOf(const KeyItem* item)
 {

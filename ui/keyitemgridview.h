@@ -31,7 +31,7 @@ public:
     static constexpr int DragHoverDelayMs = 800;
     // Room the main window needs beside the key panel.
     static constexpr int MainWindowExtraWidth = 400;
-    static constexpr int SelectionFrameWidth = 3;
+    static constexpr int SelectionFrameWidth = 2;
 
     explicit KeyItemGridView(QWidget* parent = nullptr);
     ~KeyItemGridView() override;

@@ -141,7 +141,10 @@ void VirtualKeypadWindow::rebuild(int layout)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(KeySpacing);
     const QSize shape = gridShape(layout);
-    const QSize keySize = ButtonLayoutConfig::iconSize(layout);
+    // The face, the style sheet's bezel around it, and room for the two
+    // pixels a pressed key sinks.
+    const int bezel = 2 * KeyGridGeometry::Bezel;
+    const QSize keySize = ButtonLayoutConfig::iconSize(layout) + QSize(bezel, bezel + PressTravel);
     for (int button = 0; button < ButtonLayoutConfig::keyCount(layout); ++button) {
         auto* label = new QLabel(m_keyArea);
         label->setObjectName(QStringLiteral("VirtualKeypadKey"));

@@ -23,6 +23,7 @@ class VirtualKeypadWindow : public QWidget
 public:
     static constexpr int KeySpacing = 10;
     static constexpr int BodyMargin = 18;
+    static constexpr int PressTravel = 2;
 
     // Without a layout configuration the registered one is used.
     explicit VirtualKeypadWindow(SimulatedKeypad* keypad, ButtonLayoutConfig* layouts = nullptr,

@@ -26,8 +26,8 @@ private slots:
         QTest::newRow("text string") << 5 << "Text String"
                                      << "A sequence of characters defined by users.";
         const QString hint = QStringLiteral("Drag an action from above list and drop into section on the left.");
-        QTest::newRow("none") << 7 << hint << QString();
-        QTest::newRow("invalid") << -1 << hint << QString();
+        QTest::newRow("none") << 7 << QString() << hint;
+        QTest::newRow("invalid") << -1 << QString() << hint;
     }
 
     void shouldShowHeadingAndText()
@@ -42,8 +42,8 @@ private slots:
         QCOMPARE(label(panel, "FunctionDescriptionTitle")->text(), title);
         QLabel* text = label(panel, "FunctionDescriptionText");
         QVERIFY(text->text().startsWith(start) && !text->text().contains(QLatin1Char('\n')));
-        QCOMPARE(text->isVisibleTo(&window), !start.isEmpty());
-        if (start.isEmpty()) // out of the palette: no picture
+        QCOMPARE(label(panel, "FunctionDescriptionTitle")->isVisibleTo(&window), !title.isEmpty());
+        if (title.isEmpty()) // out of the palette: no picture
             QVERIFY(!label(panel, "FunctionDescriptionImage")->isVisibleTo(&window));
     }
 

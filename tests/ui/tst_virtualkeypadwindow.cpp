@@ -87,7 +87,8 @@ private slots:
         QTRY_VERIFY(showsMarkUpright(last->pixmap(Qt::ReturnByValue).toImage()));
 
         const int edge = ButtonLayoutConfig::iconSize(layout).width();
-        const int pitch = edge + VirtualKeypadWindow::KeySpacing;
+        const QSize pitch =
+            window->key(0)->size() + QSize(VirtualKeypadWindow::KeySpacing, VirtualKeypadWindow::KeySpacing);
         const int columns = VirtualKeypadWindow::gridShape(layout).width();
         const QPoint origin = window->key(0)->mapTo(window.get(), QPoint());
         for (int button = 0; button < window->keyCount(); ++button) {
@@ -97,7 +98,7 @@ private slots:
             QVERIFY2(qAbs(qRed(shown.pixel(edge / 2, edge / 2)) - 7 * button) <= 2,
                      qPrintable(QString::number(button)));
             const QPoint offset = key->mapTo(window.get(), QPoint()) - origin;
-            QCOMPARE(offset, QPoint(button % columns * pitch, button / columns * pitch));
+            QCOMPARE(offset, QPoint(button % columns * pitch.width(), button / columns * pitch.height()));
         }
     }
 
