@@ -234,7 +234,14 @@ void MainWindow::connectEditor()
 {
     connect(m_keyItemModel, &KeyItemModel::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
             Qt::QueuedConnection);
-    connect(m_keyItemModel, &KeyItemModel::updateContent, m_treeView, &TreeView::onUpdateContent, Qt::QueuedConnection);
+    // A rebuilt outline has no current row; the grid's selection is put back.
+    connect(
+        m_keyItemModel, &KeyItemModel::updateContent, m_treeView,
+        [this](const KeyItem* item) {
+            m_treeView->onUpdateContent(item);
+            m_treeView->onButtonIdxChanged(m_grid->selectedKeyIdx());
+        },
+        Qt::QueuedConnection);
     connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_grid, &KeyItemGridView::changeLayoutButtonView);
     connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_layoutMenu,
             [this](KeyLayout layout) { m_layoutMenu->setCurrentLayout(layout); });

@@ -7,6 +7,7 @@
 #include "simulatedkeypad.h"
 #include "virtualkeypadwindow.h"
 
+#include <QEvent>
 #include <QScreen>
 #include <QTimer>
 #include <QWidget>
@@ -21,6 +22,8 @@ VirtualKeypad::VirtualKeypad(Hid_Comm* hid, ButtonLayoutConfig* layouts, QWidget
     if (layouts)
         connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, this,
                 [this](KeyLayout layout) { onLayoutChanged(layout); });
+    if (mainWindow)
+        mainWindow->installEventFilter(this);
     if (auto* installed = dynamic_cast<SimulatedKeypad*>(HidTransport::instance())) {
         m_keypad = installed;
         // Once the main window is up, so that the keypad can stand beside it.
@@ -84,6 +87,7 @@ void VirtualKeypad::setActive(bool active)
         if (!m_window) {
             m_window = std::make_unique<VirtualKeypadWindow>(m_keypad, m_layouts);
             connect(m_window.get(), &VirtualKeypadWindow::closed, this, [this] { setActive(false); });
+            m_window->installEventFilter(this);
         }
         m_hid->switchTransport(m_keypad);
         showWindow();
@@ -110,15 +114,34 @@ void VirtualKeypad::onLayoutChanged(int layout)
 void VirtualKeypad::showWindow()
 {
     m_window->adjustSize();
-    if (m_mainWindow && m_mainWindow->isVisible() && !m_mainWindow->isMinimized()) {
-        const QRect main = m_mainWindow->frameGeometry();
-        const QRect screen = m_mainWindow->screen()->availableGeometry();
-        const int width = m_window->frameGeometry().width();
-        int x = main.right() + WindowGap;
-        if (x + width > screen.right())
-            x = main.left() - WindowGap - width;
-        m_window->move(qMax(screen.left(), x), main.top());
-    }
+    m_docked = true;
+    dockBesideMainWindow();
     m_window->show();
     m_window->raise();
+}
+
+void VirtualKeypad::dockBesideMainWindow()
+{
+    if (!m_window || !m_mainWindow || !m_mainWindow->isVisible() || m_mainWindow->isMinimized())
+        return;
+    const QRect main = m_mainWindow->frameGeometry();
+    const QRect screen = m_mainWindow->screen()->availableGeometry();
+    const int width = m_window->frameGeometry().width();
+    int x = main.right() + WindowGap;
+    if (x + width > screen.right())
+        x = main.left() - WindowGap - width;
+    m_dockedPosition = QPoint(qMax(screen.left(), x), main.top());
+    m_window->move(m_dockedPosition);
+}
+
+bool VirtualKeypad::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (watched == m_mainWindow && m_active && m_docked &&
+        (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show))
+        QTimer::singleShot(0, this, [this] { dockBesideMainWindow(); });
+    else if (m_window && watched == m_window.get() && type == QEvent::Move && m_window->isVisible() &&
+             m_window->pos() != m_dockedPosition)
+        m_docked = false;
+    return QObject::eventFilter(watched, event);
 }

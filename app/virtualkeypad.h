@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
 #include <QPointer>
 
 #include <memory>
@@ -42,10 +43,15 @@ public slots:
 signals:
     void activeChanged(bool active);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void onLayoutChanged(int layout);
     int currentLayout() const;
     void showWindow();
+    // Stands the keypad beside the main window, on the side with room.
+    void dockBesideMainWindow();
 
     QPointer<Hid_Comm> m_hid;
     QPointer<ButtonLayoutConfig> m_layouts;
@@ -54,4 +60,8 @@ private:
     std::unique_ptr<SimulatedKeypad> m_ownKeypad;
     std::unique_ptr<VirtualKeypadWindow> m_window;
     bool m_active = false;
+    // The window follows the main window (the window manager places that
+    // one after we show it) until the user moves the keypad elsewhere.
+    bool m_docked = true;
+    QPoint m_dockedPosition;
 };

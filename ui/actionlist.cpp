@@ -2,6 +2,7 @@
 
 #include "logging.h"
 
+#include <QCursor>
 #include <QDataStream>
 #include <QDrag>
 #include <QHBoxLayout>
@@ -315,6 +316,11 @@ void ActionList::mouseMoveEvent(QMouseEvent* event)
     m_leftPressed = false;
     execDrag(drag);
     drag->deleteLater();
+    // The drag held the pointer: no hover event told us where it went.
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    const int under = rect().contains(pointer) ? entryAt(pointer) : -1;
+    if (under != m_hovered)
+        cancelPreviousAndThenHoverKeyButton(under);
 }
 
 void ActionList::mouseReleaseEvent(QMouseEvent* event)

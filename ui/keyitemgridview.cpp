@@ -14,6 +14,7 @@
 #include "settingskeys.h"
 #include "userquestion.h"
 
+#include <QCursor>
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QHoverEvent>
@@ -33,8 +34,9 @@ constexpr char StateHovered[] = "hover";
 constexpr char StateNone[] = "false";
 
 // Light enough to stand out on the black key background and on key images.
-// The style sheet's accent, so the frame and the key's selected border agree.
-constexpr QRgb SelectionFrameColor = 0xff38c9bb;
+// Light and neutral: selected and hovered keys both carry it, and the style
+// sheet's border around the key tells the two apart.
+constexpr QRgb SelectionFrameColor = 0xffdfe5ee;
 
 KA_Folder* folderOf(const KeyItem* item)
 {
@@ -552,11 +554,17 @@ void KeyItemGridView::startDrag(int idx, const QPoint& pressPos)
     m_dragSourceIdx = idx;
     auto* drag = new QDrag(this);
     drag->setMimeData(DragPayload::itemMimeData(DragPayload::GridItemFormat, item));
-    const QRect keyRect = m_buttons.at(idx)->geometry().translated(m_container->pos());
+    const int bezel = KeyGridGeometry::Bezel;
+    const QRect faceRect =
+        m_buttons.at(idx)->geometry().translated(m_container->pos()).adjusted(bezel, bezel, -bezel, -bezel);
     drag->setPixmap(QPixmap::fromImage(KeyFaceRenderer::render(item))
-                        .scaled(keyRect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-    drag->setHotSpot(pressPos - keyRect.topLeft());
+                        .scaled(faceRect.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    drag->setHotSpot(pressPos - faceRect.topLeft());
     drag->exec(Qt::MoveAction);
+    drag->deleteLater();
+    // The drag held the pointer: no hover event told us where it went.
+    const QPoint pointer = mapFromGlobal(QCursor::pos());
+    cancelPreviousAndThenHoverKeyButton(rect().contains(pointer) ? keyIdxAt(pointer) : -1);
     clearDragState();
 }
 
