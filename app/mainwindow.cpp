@@ -32,6 +32,7 @@
 #include "updatedevicon.h"
 #include "virtualkey.h"
 #include "virtualkeypad.h"
+#include "widgetlook.h"
 #include "windowsystem.h"
 
 #include <QApplication>
@@ -46,7 +47,6 @@
 #include <QProcess>
 #include <QSettings>
 #include <QShowEvent>
-#include <QStyle>
 #include <QTimer>
 #include <QTranslator>
 #include <QVBoxLayout>
@@ -478,11 +478,8 @@ QWidget* MainWindow::rightColumn() const
 void MainWindow::setKeypadStatus(const QString& text, const QString& state)
 {
     m_statusLine->setText(text);
-    if (state.isEmpty() || m_statusLine->property("keypad").toString() == state)
-        return;
-    m_statusLine->setProperty("keypad", state);
-    m_statusLine->style()->unpolish(m_statusLine);
-    m_statusLine->style()->polish(m_statusLine);
+    if (!state.isEmpty())
+        WidgetLook::setStyleProperty(m_statusLine, "keypad", state);
 }
 
 KeyItemGridView* MainWindow::keyGrid() const

@@ -1,6 +1,7 @@
 #include "actionlist.h"
 
 #include "logging.h"
+#include "widgetlook.h"
 
 #include <QCursor>
 #include <QDataStream>
@@ -12,7 +13,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolTip>
 
 namespace {
@@ -21,12 +21,6 @@ namespace {
 const char* const EntryImages[ActionList::EntryCount] = {"atn_folder", "atn_hotkey",  "atn_macro",
                                                          "atn_launch", "atn_website", "atn_textstring"};
 constexpr int LabelPadding = 4;
-
-void repolish(QWidget* widget)
-{
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-}
 
 } // namespace
 
@@ -60,11 +54,6 @@ QString ActionList::actionName(int actionType)
     }
 }
 
-QString ActionList::imagePath(const QString& name)
-{
-    return QStringLiteral("%1/%2.%3").arg(QStringLiteral(":/image"), name, QStringLiteral("png"));
-}
-
 QMimeData* ActionList::createMimeData(int actionType)
 {
     QByteArray bytes;
@@ -84,8 +73,8 @@ void ActionList::buildEntries()
         Entry entry;
         entry.index = i;
         const QString image = QLatin1String(EntryImages[i]);
-        entry.normal = QPixmap(imagePath(image));
-        entry.highlighted = QPixmap(imagePath(image + QStringLiteral("_press")));
+        entry.normal = QPixmap(WidgetLook::imagePath(image));
+        entry.highlighted = QPixmap(WidgetLook::imagePath(image + QStringLiteral("_press")));
         entry.label = new QLabel(this);
         entry.label->setObjectName(QStringLiteral("ActionListItem"));
         entry.label->setFixedSize(entry.iconSize + QSize(LabelPadding, LabelPadding));
@@ -113,7 +102,7 @@ QPushButton* ActionList::makeButton(const char* objectName, const QString& image
     button->setObjectName(QLatin1String(objectName));
     button->setToolTip(toolTip);
     button->setFocusPolicy(Qt::NoFocus);
-    const QPixmap pixmap(imagePath(image));
+    const QPixmap pixmap(WidgetLook::imagePath(image));
     if (pixmap.isNull())
         button->setText(toolTip); // still usable without its picture
     else
@@ -138,8 +127,7 @@ void ActionList::showEntry(int idx, bool highlighted, const char* state)
         entry.label->clear();
     else
         entry.label->setPixmap(pixmap);
-    entry.label->setProperty("state", QLatin1String(state));
-    repolish(entry.label);
+    WidgetLook::setStyleProperty(entry.label, "state", QLatin1String(state));
 }
 
 int ActionList::entryAt(const QPoint& pos) const
@@ -215,8 +203,7 @@ void ActionList::cancelSelectedFavoriteButton()
 
 void ActionList::setFavoriteButtonState(const char* state)
 {
-    m_favoriteButton->setProperty("state", QLatin1String(state));
-    repolish(m_favoriteButton);
+    WidgetLook::setStyleProperty(m_favoriteButton, "state", QLatin1String(state));
 }
 
 void ActionList::onButtonViewIndexChanged()

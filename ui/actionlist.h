@@ -38,8 +38,6 @@ public:
     // The palette name of an action type ("Folder" ... "Text String"); empty
     // for types the palette does not offer.
     static QString actionName(int actionType);
-    // ":/image/<name>.png"
-    static QString imagePath(const QString& name);
     // "VSE/ActionList-item" holding the action type as a qint32.
     static QMimeData* createMimeData(int actionType);
 

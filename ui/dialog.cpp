@@ -4,6 +4,7 @@
 #include "logging.h"
 #include "objectregistry.h"
 #include "titlebar.h"
+#include "widgetlook.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -11,7 +12,6 @@
 #include <QMutex>
 #include <QPushButton>
 #include <QQueue>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -159,9 +159,7 @@ void Dialog::setupDialog(const QString& subject, const QString& text, const QStr
         m_buttons[i]->setVisible(!buttonTexts[i].isEmpty());
         const bool isDefault = i == defaultButton;
         m_buttons[i]->setDefault(isDefault);
-        m_buttons[i]->setProperty("default", isDefault);
-        m_buttons[i]->style()->unpolish(m_buttons[i]);
-        m_buttons[i]->style()->polish(m_buttons[i]);
+        WidgetLook::setStyleProperty(m_buttons[i], "default", isDefault);
     }
     if (defaultButton >= 0 && defaultButton < 3 && m_buttons[defaultButton]->isVisibleTo(this))
         m_buttons[defaultButton]->setFocus();

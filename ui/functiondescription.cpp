@@ -1,6 +1,6 @@
 #include "functiondescription.h"
 
-#include "actionlist.h"
+#include "widgetlook.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -86,7 +86,7 @@ void FunctionDescription::buildLabels()
 void FunctionDescription::showContent()
 {
     const QPixmap picture =
-        isDescribed(m_actionType) ? QPixmap(ActionList::imagePath(QLatin1String(Images[m_actionType]))) : QPixmap();
+        isDescribed(m_actionType) ? QPixmap(WidgetLook::imagePath(QLatin1String(Images[m_actionType]))) : QPixmap();
     m_image->setPixmap(picture);
     m_image->setVisible(!picture.isNull());
 

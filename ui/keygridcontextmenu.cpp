@@ -1,5 +1,7 @@
 #include "keygridcontextmenu.h"
 
+#include "widgetlook.h"
+
 #include <QAction>
 #include <QIcon>
 
@@ -27,7 +29,7 @@ QAction* KeyGridContextMenu::addEntry(QMenu* menu, Entry entry, const QString& t
     QAction* action = menu->addAction(text);
     // A missing image gives a null icon: the entry still works.
     if (!iconName.isEmpty())
-        action->setIcon(QIcon(QStringLiteral(":/image/%1.png").arg(iconName)));
+        action->setIcon(QIcon(WidgetLook::imagePath(iconName)));
     m_actions[entry] = action;
     return action;
 }

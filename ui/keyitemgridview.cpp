@@ -13,6 +13,7 @@
 #include "settings.h"
 #include "settingskeys.h"
 #include "userquestion.h"
+#include "widgetlook.h"
 
 #include <QCursor>
 #include <QDrag>
@@ -23,7 +24,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
 #include <QTimer>
 
 namespace {
@@ -305,9 +305,7 @@ void KeyItemGridView::setKeyState(int idx, const char* state)
     QLabel* button = keyButton(idx);
     if (!button)
         return;
-    button->setProperty(StateProperty, QString::fromLatin1(state));
-    button->style()->unpolish(button);
-    button->style()->polish(button);
+    WidgetLook::setStyleProperty(button, StateProperty, QString::fromLatin1(state));
 }
 
 const char* KeyItemGridView::restingState(int idx) const

@@ -1,25 +1,26 @@
 #include "layoutmenu.h"
 
 #include "buttonlayoutconfig.h"
+#include "widgetlook.h"
 
 #include <QActionGroup>
 #include <QIcon>
 
 namespace {
 
-QString layoutText(int layout)
-{
-    const int keys = ButtonLayoutConfig::keyCount(layout);
-    const bool vertical = layout % 2 == 1;
-    return vertical ? LayoutMenu::tr("%1 keys, vertical").arg(keys) : LayoutMenu::tr("%1 keys, horizontal").arg(keys);
-}
-
 QIcon layoutIcon(int layout)
 {
-    return QIcon(QStringLiteral(":/image/icn_layout%1.png").arg(ButtonLayoutConfig::keyCount(layout)));
+    return QIcon(WidgetLook::imagePath(QStringLiteral("icn_layout%1").arg(ButtonLayoutConfig::keyCount(layout))));
 }
 
 } // namespace
+
+QString LayoutMenu::layoutText(int layout)
+{
+    const int keys = ButtonLayoutConfig::keyCount(layout);
+    const bool vertical = layout == V_Key_6 || layout == V_Key_15 || layout == V_Key_32;
+    return vertical ? tr("%1 keys, vertical").arg(keys) : tr("%1 keys, horizontal").arg(keys);
+}
 
 LayoutMenu::LayoutMenu(QWidget* parent) : QMenu(tr("Keypad layout"), parent)
 {

@@ -12,6 +12,9 @@ class LayoutMenu : public QMenu
 public:
     explicit LayoutMenu(QWidget* parent = nullptr);
 
+    // "15 keys, vertical": how a layout is named to the user.
+    static QString layoutText(int layout);
+
     // Ticks the entry of the layout in force (none for an invalid value).
     void setCurrentLayout(int layout);
     int checkedLayout() const;

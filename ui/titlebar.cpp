@@ -1,11 +1,11 @@
 #include "titlebar.h"
 
 #include "clicklabel.h"
+#include "widgetlook.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStyle>
 #include <QWindow>
 
 namespace {
@@ -13,11 +13,6 @@ constexpr int BarHeight = 36;
 constexpr int ButtonSize = 28;
 constexpr int ButtonIconSize = 16;
 
-void repolish(QWidget* widget)
-{
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-}
 } // namespace
 
 TitleBar::TitleBar(Buttons buttons, QWidget* parent) : QWidget(parent)
@@ -60,7 +55,7 @@ ClickLabel* TitleBar::addButton(Button which, const QString& objectName, const Q
     button->setToolTip(toolTip);
     button->setFixedSize(ButtonSize, ButtonSize);
     button->setAlignment(Qt::AlignCenter);
-    button->setPixmap(QPixmap(QStringLiteral(":/image/%1.png").arg(iconName))
+    button->setPixmap(QPixmap(WidgetLook::imagePath(iconName))
                           .scaled(ButtonIconSize, ButtonIconSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     button->setProperty("hover", false);
     connect(button, &ClickLabel::mouseEnterLeaveEvent, this, &TitleBar::updateButtonHover);
@@ -100,18 +95,16 @@ ClickLabel* TitleBar::button(Button which) const
 void TitleBar::setActiveLook(bool active)
 {
     // The style sheet keys on this property: "true" or "false".
-    setProperty("active", active);
-    repolish(this);
+    WidgetLook::setStyleProperty(this, "active", active);
     for (QLabel* label : {m_title, static_cast<QLabel*>(m_logo)})
-        repolish(label);
+        WidgetLook::repolish(label);
 }
 
 void TitleBar::updateButtonHover(ClickLabel* pad, QEvent* e)
 {
     if (!pad || !e)
         return;
-    pad->setProperty("hover", e->type() == QEvent::Enter);
-    repolish(pad);
+    WidgetLook::setStyleProperty(pad, "hover", e->type() == QEvent::Enter);
 }
 
 void TitleBar::mousePressEvent(QMouseEvent* event)

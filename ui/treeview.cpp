@@ -1,12 +1,12 @@
 #include "treeview.h"
 
-#include "actionlist.h"
 #include "ka_folder.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "treeviewitemdelegate.h"
+#include "widgetlook.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -39,7 +39,7 @@ void TreeView::buildWidgets()
 
     m_home = new QPushButton(tr("Home"), this);
     m_home->setObjectName(QStringLiteral("pb_home"));
-    m_home->setIcon(QIcon(ActionList::imagePath(QStringLiteral("icn_home"))));
+    m_home->setIcon(QIcon(WidgetLook::imagePath(QStringLiteral("icn_home"))));
     m_home->setIconSize(QSize(HomeIconSide, HomeIconSide));
     m_home->setFocusPolicy(Qt::NoFocus);
     layout->addWidget(m_home);
@@ -88,7 +88,7 @@ QIcon TreeView::iconForType(int actionType)
         LOG_MSG(QStringLiteral("ERR: unsupport type in tree view: %1").arg(actionType));
         return QIcon();
     }
-    return QIcon(ActionList::imagePath(QLatin1String(RowIcons[actionType])));
+    return QIcon(WidgetLook::imagePath(QLatin1String(RowIcons[actionType])));
 }
 
 QTreeWidget* TreeView::treeWidget() const

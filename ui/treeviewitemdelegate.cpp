@@ -4,6 +4,7 @@
 #include "ka_folder.h"
 #include "keyitem.h"
 #include "treeview.h"
+#include "widgetlook.h"
 
 #include <QPainter>
 
@@ -23,8 +24,8 @@ QColor textColor(const QStyleOptionViewItem& option)
 } // namespace
 
 TreeViewItemDelegate::TreeViewItemDelegate(QObject* parent)
-    : QStyledItemDelegate(parent), m_arrowDown(ActionList::imagePath(QStringLiteral("icn_arrow_down"))),
-      m_arrowRight(ActionList::imagePath(QStringLiteral("icn_arrow_right")))
+    : QStyledItemDelegate(parent), m_arrowDown(WidgetLook::imagePath(QStringLiteral("icn_arrow_down"))),
+      m_arrowRight(WidgetLook::imagePath(QStringLiteral("icn_arrow_right")))
 {
 }
 

@@ -4,16 +4,18 @@
 #include "hid_comm.h"
 #include "keyaction.h"
 #include "keygridgeometry.h"
+#include "layoutmenu.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "simulatedkeypad.h"
+#include "widgetlook.h"
 
 #include <QCloseEvent>
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStyle>
 #include <QTransform>
 #include <QVBoxLayout>
 
@@ -22,20 +24,6 @@ namespace {
 const char* const ButtonProperty = "button";
 constexpr qreal UnpluggedOpacity = 0.35;
 
-QString layoutDescription(int layout)
-{
-    const int keys = ButtonLayoutConfig::keyCount(layout);
-    const bool vertical = layout == V_Key_6 || layout == V_Key_15 || layout == V_Key_32;
-    return vertical ? VirtualKeypadWindow::tr("%1 keys, vertical").arg(keys)
-                    : VirtualKeypadWindow::tr("%1 keys, horizontal").arg(keys);
-}
-
-void repolish(QWidget* widget)
-{
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
-}
-
 } // namespace
 
 VirtualKeypadWindow::VirtualKeypadWindow(SimulatedKeypad* keypad, ButtonLayoutConfig* layouts, QWidget* parent)
@@ -43,7 +31,7 @@ VirtualKeypadWindow::VirtualKeypadWindow(SimulatedKeypad* keypad, ButtonLayoutCo
 {
     setObjectName(QStringLiteral("VirtualKeypadWindow"));
     setWindowTitle(tr("Virtual Keypad"));
-    setWindowIcon(QIcon(QStringLiteral(":/image/icn_logo.png")));
+    setWindowIcon(QIcon(WidgetLook::imagePath(QStringLiteral("icn_logo"))));
 
     auto* outer = new QVBoxLayout(this);
     outer->setSizeConstraint(QLayout::SetFixedSize);
@@ -187,9 +175,8 @@ void VirtualKeypadWindow::showConnection(bool pluggedIn)
 {
     if (!pluggedIn)
         releaseButton();
-    m_status->setText(pluggedIn ? layoutDescription(m_layout) : tr("unplugged"));
-    m_body->setProperty("unplugged", pluggedIn ? QStringLiteral("false") : QStringLiteral("true"));
-    repolish(m_body);
+    m_status->setText(pluggedIn ? LayoutMenu::layoutText(m_layout) : tr("unplugged"));
+    WidgetLook::setStyleProperty(m_body, "unplugged", pluggedIn ? QStringLiteral("false") : QStringLiteral("true"));
     if (pluggedIn) {
         m_body->setGraphicsEffect(nullptr);
     } else if (!m_body->graphicsEffect()) {
@@ -234,8 +221,7 @@ void VirtualKeypadWindow::releaseButton()
 void VirtualKeypadWindow::setPressedLook(int button, bool pressed)
 {
     if (QLabel* label = key(button)) {
-        label->setProperty("pressed", pressed ? QStringLiteral("true") : QStringLiteral("false"));
-        repolish(label);
+        WidgetLook::setStyleProperty(label, "pressed", pressed ? QStringLiteral("true") : QStringLiteral("false"));
     }
 }
 
