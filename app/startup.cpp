@@ -2,10 +2,12 @@
 
 #include "instancecheck.h"
 #include "ipctoken.h"
+#include "keystageversion.h"
 #include "mainwindow.h"
 #include "metatypes.h"
 #include "myapplication.h"
 #include "settings.h"
+#include "settingskeys.h"
 #include "simulatedkeypad.h"
 
 #include <QDebug>
@@ -50,7 +52,7 @@ void Startup::setIdentity()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
     QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.3"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KEYSTAGE_VERSION));
 }
 
 int Startup::checkedLanguageIndex(int stored)
@@ -109,7 +111,7 @@ int Startup::run(int& argc, char** argv)
     // Before the first read of the settings file: a damaged one must not abort us.
     Settings::setAsideUnreadableStore();
     QSettings settings;
-    const int langIdx = checkedLanguageIndex(settings.value(QStringLiteral("lang_idx"), -1).toInt());
+    const int langIdx = checkedLanguageIndex(settings.value(SettingsKeys::LangIdx, -1).toInt());
     QTranslator translator;
     MainWindow::installTranslator(&translator, langIdx);
 

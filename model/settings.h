@@ -1,6 +1,7 @@
 #pragma once
 
 #include "encodingcache.h"
+#include "keystageversion.h"
 #include "settingsfilewriter.h"
 #include "settingskeys.h"
 #include "variantstreamwriter.h"
@@ -45,7 +46,7 @@ class Settings : public QObject
     Q_OBJECT
 public:
     // Written into the tree on every reset and save.
-    static constexpr QLatin1String Version = SettingsKeys::literal("1.3");
+    static constexpr QLatin1String Version = SettingsKeys::literal(KEYSTAGE_VERSION);
 
     // Limits for untrusted export files. A real layout with an image on every
     // key of a full folder tree stays far below each of them.

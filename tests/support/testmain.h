@@ -1,5 +1,6 @@
 #pragma once
 
+#include "keystageversion.h"
 #include "testenvironment.h"
 
 #include <QApplication>
@@ -19,7 +20,7 @@
         setTestEnvironment(&environment);                                                                              \
         QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));                                             \
         QCoreApplication::setApplicationName(QStringLiteral("Keystage"));                                              \
-        QCoreApplication::setApplicationVersion(QStringLiteral("1.3"));                                                \
+        QCoreApplication::setApplicationVersion(QStringLiteral(KEYSTAGE_VERSION));                                     \
         QApplication app(argc, argv);                                                                                  \
         QThread::currentThread()->setObjectName(QStringLiteral("UI Thread"));                                          \
         TestObject test;                                                                                               \
