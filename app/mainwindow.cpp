@@ -16,6 +16,7 @@
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
+#include "keypadusbids.h"
 #include "keypadmonitor.h"
 #include "layoutmenu.h"
 #include "logging.h"
@@ -290,7 +291,7 @@ void MainWindow::createDevice()
     connect(m_hidComm, &Hid_Comm::KeyboardStatusChange, this, &MainWindow::onKeyboardStatusChange,
             Qt::QueuedConnection);
 
-    m_keypadMonitor = new KeypadMonitor(this);
+    m_keypadMonitor = new KeypadMonitor(keypadUsbIds(), this);
     connect(m_keypadMonitor, &KeypadMonitor::keypadArrived, m_hidComm, &Hid_Comm::onKeyboardWasAdded);
     connect(m_keypadMonitor, &KeypadMonitor::keypadRemoved, m_hidComm, &Hid_Comm::onKeyboardWasRemoved);
     m_sleepMonitor = new SleepMonitor(this);
@@ -385,7 +386,7 @@ void MainWindow::showKeypadStatus()
         setKeypadStatus(tr("Keypad connected"), QStringLiteral("connected"));
         return;
     }
-    const KeypadAccess::Result access = KeypadAccess::check();
+    const KeypadAccess::Result access = KeypadAccess::check(keypadUsbIds());
     if (access.status == KeypadAccess::NoPermission) {
         LOG_MSG(QStringLiteral("keypad at %1 cannot be opened: no permission").arg(access.nodePath));
         setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()),

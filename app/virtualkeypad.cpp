@@ -3,6 +3,7 @@
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
 #include "hidtransport.h"
+#include "keypadtable.h"
 #include "logging.h"
 #include "simulatedkeypad.h"
 #include "virtualkeypadwindow.h"
@@ -45,21 +46,8 @@ VirtualKeypad::~VirtualKeypad()
 
 unsigned short VirtualKeypad::productIdForLayout(int layout)
 {
-    switch (layout) {
-    case H_Key_6:
-        return 0x1F43;
-    case V_Key_6:
-        return 0x1F42;
-    case H_Key_15:
-        return 0x1F41;
-    case V_Key_15:
-        return 0x1F40;
-    case H_Key_32:
-    case V_Key_32:
-        return 0x1F44;
-    default:
-        return SimulatedKeypad::DefaultProductId;
-    }
+    const KeypadTable::LayoutFacts* facts = KeypadTable::layout(layout);
+    return facts ? static_cast<unsigned short>(facts->productId) : SimulatedKeypad::DefaultProductId;
 }
 
 int VirtualKeypad::currentLayout() const

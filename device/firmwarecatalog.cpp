@@ -1,13 +1,12 @@
 #include "firmwarecatalog.h"
 
-#include "keylayout.h"
+#include "keypadtable.h"
 
 #include <QDir>
 #include <QStandardPaths>
 #include <QtEndian>
 
 namespace {
-const QString UnknownDevice = QStringLiteral("Unknown Device");
 const QString OwnVersionPrefix = QStringLiteral("1.0.");
 
 void putBigEndian(QByteArray& bytes, int at, quint32 value)
@@ -30,45 +29,9 @@ QStringList FirmwareCatalog::searchDirectories()
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/firmware")};
 }
 
-QString FirmwareCatalog::modelName(int layout)
-{
-    switch (layout) {
-    case H_Key_6:
-    case V_Key_6:
-        return QStringLiteral("VKP-6P");
-    case H_Key_15:
-    case V_Key_15:
-        return QStringLiteral("VKP-15P");
-    case H_Key_32:
-    case V_Key_32:
-        return QStringLiteral("VKP-32L");
-    default:
-        return UnknownDevice;
-    }
-}
-
-QString FirmwareCatalog::firmwareId(int layout, bool vendorLibrary)
-{
-    switch (layout) {
-    case H_Key_6:
-        return QStringLiteral("F28B23P1F43");
-    case V_Key_6:
-        return QStringLiteral("F28B23P1F42");
-    case H_Key_15:
-        return QStringLiteral("F43B35P1F41");
-    case V_Key_15:
-        return vendorLibrary ? QStringLiteral("VKP15-01-0") : QStringLiteral("F43B35P1F40");
-    case H_Key_32:
-    case V_Key_32:
-        return QStringLiteral("F70B48P1F44");
-    default:
-        return UnknownDevice;
-    }
-}
-
 bool FirmwareCatalog::isKnownDevice(const QString& id)
 {
-    return id != UnknownDevice;
+    return id != QLatin1String(KeypadTable::UnknownDevice);
 }
 
 bool FirmwareCatalog::packagedVersion(const QString& id, bool vendorLibrary, Entry& entry)

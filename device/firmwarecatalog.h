@@ -25,8 +25,6 @@ public:
     // Searched in this order; the first image that matches wins.
     static QStringList searchDirectories();
 
-    static QString modelName(int layout);
-    static QString firmwareId(int layout, bool vendorLibrary);
     static bool isKnownDevice(const QString& firmwareId);
 
     // The first image whose name contains the id (case-sensitive).

@@ -1,10 +1,8 @@
 #include "hid_comm.h"
 
-#include "buttonlayoutconfig.h"
 #include "hidtransport.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
-#include "keypadids.h"
 #include "logging.h"
 #include "vendordevicelibrary.h"
 
@@ -12,7 +10,6 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QPainter>
-#include <QTransform>
 
 namespace {
 
@@ -20,27 +17,7 @@ constexpr int PollTimeoutMs = 100;
 constexpr int IdlePollMs = 1000;
 constexpr int EffectIconSize = 50;
 
-// Grid position -> key number in the image reports, per layout. The first
-// table runs to 15 entries; only the layout's key count of each is used.
-// clang-format off
-constexpr int DeviceKeyNumbers[6][32] = {
-    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14},
-    {4, 1, 5, 2, 6, 3},
-    {5, 4, 3, 2, 1, 10, 9, 8, 7, 6, 15, 14, 13, 12, 11},
-    {1, 6, 11, 2, 7, 12, 3, 8, 13, 4, 9, 14, 5, 10, 15},
-    {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
-     17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32},
-    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15,
-     16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31},
-};
-// clang-format on
-
 std::atomic<bool> vendorLibraryInUse{false};
-
-bool usesSmallPackets(int layout)
-{
-    return layout == H_Key_6 || layout == V_Key_6;
-}
 
 QImage composeKeyImage(const QImage& icon, bool effectIcon)
 {
@@ -92,27 +69,12 @@ bool Hid_Comm::usesVendorLibrary()
 
 int Hid_Comm::deviceKeyNumber(int layoutValue, int position)
 {
-    if (position < 0 || position >= ButtonLayoutConfig::keyCount(layoutValue))
-        return -1;
-    return DeviceKeyNumbers[layoutValue][position];
+    return KeypadTable::deviceKeyNumber(layoutValue, position);
 }
 
 QImage Hid_Comm::orientForLayout(const QImage& image, int layoutValue)
 {
-    switch (layoutValue) {
-    case H_Key_6:
-        return image.transformed(QTransform().rotate(90));
-    case V_Key_6:
-        return image.mirrored(false, true);
-    case H_Key_15:
-    case H_Key_32:
-        return image.transformed(QTransform().rotate(180));
-    case V_Key_15:
-    case V_Key_32:
-        return image.transformed(QTransform().rotate(270));
-    default:
-        return image;
-    }
+    return KeypadTable::turnedForDevice(image, layoutValue);
 }
 
 // ---- connection ---------------------------------------------------------
@@ -139,7 +101,8 @@ bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
     closeDevice();
     emit KeyboardStatusChange(false);
 
-    const bool viaLibrary = pid == VendorDeviceLibrary::ProductId;
+    const KeypadTable::ProductFacts* product = KeypadTable::product(pid);
+    const bool viaLibrary = product && product->vendorLibrary;
     if (viaLibrary && ownProtocolOnly.load()) {
         LOG_MSG(QStringLiteral("Error: the maker's library is not used with a simulated keypad, pid:%1 !").arg(pid));
         return false;
@@ -164,8 +127,8 @@ bool Hid_Comm::openSDKeyboard(uint32_t vid, uint32_t pid)
 
 void Hid_Comm::openFirstSupportedKeyboard()
 {
-    for (quint32 pid : KeypadIds::supportedProductIds()) {
-        if (openSDKeyboard(KeypadIds::VendorId, pid))
+    for (quint32 pid : KeypadTable::productIds()) {
+        if (openSDKeyboard(KeypadTable::VendorId, pid))
             return;
     }
 }
@@ -303,12 +266,12 @@ void Hid_Comm::pollOwnProtocol()
 void Hid_Comm::handleKeyStates(const KEYBUTTON_DATA& keys)
 {
     const int layoutValue = layout.load();
-    if (!ButtonLayoutConfig::isValidLayout(layoutValue)) {
+    if (!KeypadTable::isValidLayout(layoutValue)) {
         LOG_MSG(QStringLiteral("layoutType out of range!!!"));
         return;
     }
     quint64 mask = 0;
-    for (int n = 0; n < ButtonLayoutConfig::keyCount(layoutValue); ++n) {
+    for (int n = 0; n < KeypadTable::keyCount(layoutValue); ++n) {
         if (keys.key[n])
             mask |= quint64(1) << n;
     }
@@ -387,7 +350,7 @@ void Hid_Comm::onUpdateContent(const KeyItem* keyItem)
                            QStringLiteral("keyItem index out of range!!!")))
         return;
     const int layoutValue = layout.load();
-    if (!logMsgWhenRetFail(ButtonLayoutConfig::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+    if (!logMsgWhenRetFail(KeypadTable::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
         return;
     const int deviceKey = deviceKeyNumber(layoutValue, keyItem->keyIdx);
     if (deviceKey < 0) {
@@ -407,16 +370,16 @@ bool Hid_Comm::sendIcon(int devKeyIdx, const QImage& icon, bool effectIcon)
     if (!opened.load())
         return false;
     const int layoutValue = layout.load();
-    if (!logMsgWhenRetFail(ButtonLayoutConfig::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
+    if (!logMsgWhenRetFail(KeypadTable::isValidLayout(layoutValue), QStringLiteral("currLayout is invalid!!!!")))
         return false;
-    if (devKeyIdx < 0 || devKeyIdx > ButtonLayoutConfig::keyCount(layoutValue)) {
+    if (devKeyIdx < 0 || devKeyIdx > KeypadTable::keyCount(layoutValue)) {
         LOG_MSG(QStringLiteral("index out of range: %1").arg(devKeyIdx));
         return false;
     }
     const QImage image = orientForLayout(composeKeyImage(icon, effectIcon), layoutValue);
     QMutexLocker locker(&deviceMutex);
-    if (layoutValue == H_Key_32)
-        QThread::msleep(1);
+    if (const int pause = KeypadTable::writePauseMs(layoutValue))
+        QThread::msleep(pause);
     return writeKeyImage(layoutValue, devKeyIdx, image) != Err_Failure;
 }
 
@@ -438,7 +401,7 @@ int Hid_Comm::writeKeyImage(int layoutValue, int deviceKey, const QImage& image)
     }
     const QByteArray bytes = encode(image, "BMP", -1);
     const auto* data = reinterpret_cast<const uint8_t*>(bytes.constData());
-    if (usesSmallPackets(layoutValue))
+    if (KeypadTable::usesSmallPackets(layoutValue))
         return device.vT_WriteImageNUC442(uint8_t(deviceKey), data, bytes.size());
     return device.vT_WriteImage(uint8_t(deviceKey), data, bytes.size());
 }
@@ -454,14 +417,15 @@ bool Hid_Comm::sendIconArray(const QPixmap* icons)
 bool Hid_Comm::sendIconArray(const QImage* icons)
 {
     const int layoutValue = layout.load();
-    if (!opened.load() || !ButtonLayoutConfig::isValidLayout(layoutValue))
+    if (!opened.load() || !KeypadTable::isValidLayout(layoutValue))
         return false;
     QMutexLocker locker(&deviceMutex);
     int result = Err_Failure;
-    for (int position = 0; position < ButtonLayoutConfig::keyCount(layoutValue); ++position) {
+    const int pause = KeypadTable::writePauseMs(layoutValue);
+    for (int position = 0; position < KeypadTable::keyCount(layoutValue); ++position) {
         result = writeKeyImage(layoutValue, deviceKeyNumber(layoutValue, position), icons[position]);
-        if (layoutValue == H_Key_32)
-            VTHidDev::delayMs(1);
+        if (pause)
+            VTHidDev::delayMs(pause);
     }
     return result == Err_Success;
 }
@@ -516,7 +480,7 @@ bool Hid_Comm::updateFW(QByteArray fwData)
         return false;
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
-    if (!usesSmallPackets(layout.load()))
+    if (!KeypadTable::usesSmallPackets(layout.load()))
         return device.vT_FirmwareUpgrade(fwData) == Err_Success;
     const bool flashed = device.vT_FirmwareUpgradeNUC442(fwData) == Err_Success;
     // The handle now belongs to the boot loader; the keypad comes back under

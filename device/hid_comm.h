@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keylayout.h"
+#include "keypadtable.h"
 #include "vthiddev.h"
 
 #include <QByteArray>
@@ -29,7 +30,7 @@ class Hid_Comm : public QThread
 
 public:
     static constexpr int KeyImageSize = 72;
-    static constexpr int MaxKeys = 32;
+    static constexpr int MaxKeys = KeypadTable::MaxKeys;
 
     explicit Hid_Comm(QObject* parent = nullptr);
     ~Hid_Comm() override;

@@ -3,6 +3,7 @@
 #include "buttonlayoutconfig.h"
 #include "firmwarecatalog.h"
 #include "hid_comm.h"
+#include "keypadtable.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "userquestion.h"
@@ -34,8 +35,8 @@ bool getDeviceInfo(QString& modelName, QString& firmwareId, QString& serialNumbe
     if (!hid->readFWVersion(currentVersion) || !hid->readSerialNumber(serialNumber))
         return false;
     const int layout = currentLayout();
-    modelName = FirmwareCatalog::modelName(layout);
-    firmwareId = FirmwareCatalog::firmwareId(layout, Hid_Comm::usesVendorLibrary());
+    modelName = KeypadTable::modelName(layout);
+    firmwareId = KeypadTable::firmwareId(layout, Hid_Comm::usesVendorLibrary());
     if (!FirmwareCatalog::isKnownDevice(firmwareId))
         return false;
     FirmwareCatalog::Entry entry;

@@ -1,5 +1,7 @@
 #include "simulatedkeypad.h"
 
+#include "keypadprotocol.h"
+#include "keypadtable.h"
 #include "logging.h"
 
 #include <QDeadlineTimer>
@@ -10,53 +12,11 @@
 
 namespace {
 
-// Output report 0x02: a chunk of an image or firmware object.
-constexpr unsigned char DataChunkId = 0x02;
-constexpr int LargeChunkReportSize = 8017;
-constexpr int SmallChunkReportSize = 512;
-constexpr int LargeChunkCapacity = 8000;
-constexpr int SmallChunkCapacity = 495;
-constexpr int ChunkHeaderSize = 17;
-constexpr quint32 ChunkMagic = 0x55AAAA55;
-constexpr quint32 ChunkMagicTail = 0x44332211;
+using namespace KeypadProtocol;
+
 // Far beyond any image or firmware; bounds what a bad offset can allocate.
 constexpr qint64 MaxObjectSize = 4 * 1024 * 1024;
-
-// Feature reports
-constexpr unsigned char VersionId = 0x10;
-constexpr unsigned char BacklightId = 0x11;
-constexpr unsigned char ImageCommandId = 0x12;
-constexpr unsigned char FirmwareCommitId = 0x13;
-constexpr unsigned char KeyCommandId = 0x14;
-constexpr unsigned char SerialId = 0x17;
-constexpr unsigned char ShowImageSub = 0x01;
-constexpr unsigned char ShowLogoSub = 0x02;
-constexpr unsigned char ClearKeySub = 0xAC;
-constexpr unsigned char BootLoaderSub = 0xDC;
-constexpr unsigned char BootLoaderSub2 = 0xCD;
-constexpr int BacklightReportSize = 2;
-constexpr int ImageCommandReportSize = 33;
-constexpr int FirmwareCommitReportSize = 17;
-constexpr int KeyCommandReportSize = 17;
-constexpr int SerialReportSize = 17;
-constexpr int VersionReportSize = 33;
-constexpr quint32 LogoMarker = 999;
-constexpr quint32 LogoMarkerTail = 9999;
-constexpr int FirmwareHeaderSize = 64;
-
-// Boot loader output reports, id 0x00
-constexpr int BootReportSize = 513;
-constexpr int BootDataHeaderSize = 7;
-constexpr int BootDataCapacity = BootReportSize - BootDataHeaderSize;
-constexpr int BootPageEndMarker = 0xFF00;
-constexpr int BootFinishMarker = 0xFE00;
 constexpr int MaxBootPages = 1024;
-
-// Input reports
-constexpr int InputReportSize = 65;
-constexpr unsigned char KeyStateId = 0x01;
-constexpr unsigned char AcknowledgeId = 0x02;
-constexpr unsigned char AcknowledgeCode = 0xB1;
 
 // hidapi itself takes any length; this only stops a wild length from
 // copying half the address space.
@@ -98,11 +58,6 @@ QByteArray acknowledgeReport()
     report[0] = char(AcknowledgeId);
     report[1] = char(AcknowledgeCode);
     return report;
-}
-
-bool isNuc442(unsigned short productId)
-{
-    return productId == 0x1F43 || productId == 0x1F42;
 }
 
 QString hex(int value)
@@ -169,11 +124,6 @@ SimulatedKeypad::~SimulatedKeypad()
         LOG_MSG(QStringLiteral("destroyed while installed as the transport; hidapi is back!!"));
         HidTransport::setInstance(nullptr);
     }
-}
-
-QVector<unsigned short> SimulatedKeypad::supportedProductIds()
-{
-    return {0x1F43, 0x1F42, 0x1F41, 0x1F40, 0x1F45, 0x1F44, 0x110E};
 }
 
 // ---------------------------------------------------------------------------
@@ -322,7 +272,7 @@ void SimulatedKeypad::setProductId(unsigned short productId)
 
 bool SimulatedKeypad::hasBootLoader() const
 {
-    return isNuc442(productId());
+    return KeypadTable::hasBootLoader(productId());
 }
 
 bool SimulatedKeypad::isPluggedIn() const
@@ -923,7 +873,7 @@ void SimulatedKeypad::clearKey(const QByteArray& report, Notices& notices)
 
 void SimulatedKeypad::enterBootLoader(Notices& notices)
 {
-    if (!isNuc442(m_productId)) {
+    if (!KeypadTable::hasBootLoader(m_productId)) {
         LOG_MSG(noteError(QStringLiteral("product %1 has no boot loader!!").arg(hex(m_productId))));
         return;
     }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "hidtransport.h"
+#include "keypadprotocol.h"
+#include "keypadtable.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -60,15 +62,15 @@ class SimulatedKeypad : public QObject, public HidTransport
     Q_OBJECT
 
 public:
-    static constexpr unsigned short VendorId = 0xFFFF;
+    static constexpr unsigned short VendorId = KeypadTable::VendorId;
     static constexpr unsigned short DefaultProductId = 0x1F41;
-    static constexpr unsigned short BootLoaderProductId = 0xFF00;
+    static constexpr unsigned short BootLoaderProductId = KeypadTable::BootLoaderProductId;
     static constexpr int DefaultWedgeTimeoutMs = 1000;
     static constexpr int DefaultReportLogLimit = 1024;
     static constexpr int InputQueueLimit = 30;
-    static constexpr int KeyCount = 64;
-    static constexpr int SerialNumberLength = 16;
-    static constexpr int BootPageSize = 2048;
+    static constexpr int KeyCount = KeypadProtocol::KeyStateBits;
+    static constexpr int SerialNumberLength = KeypadProtocol::SerialNumberLength;
+    static constexpr int BootPageSize = KeypadProtocol::BootPageSize;
 
     // What the device made of one report. Output and feature reports are
     // logged when they arrive, input reports when a read hands them out.
@@ -127,8 +129,6 @@ public:
     int sendFeatureReport(HidDeviceHandle* device, const unsigned char* data, size_t length) override;
     int getFeatureReport(HidDeviceHandle* device, unsigned char* data, size_t length) override;
     QString error(HidDeviceHandle* device) override;
-
-    static QVector<unsigned short> supportedProductIds();
 
     // Enumeration. Another product id is another keypad: open handles die.
     unsigned short productId() const;

@@ -16,7 +16,6 @@
 class VendorDeviceLibrary
 {
 public:
-    static constexpr uint16_t ProductId = 0x110E;
     static constexpr int EventBufferSize = 8;
     static constexpr int KeyCount = 15;
 

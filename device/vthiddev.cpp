@@ -1,7 +1,8 @@
 #include "vthiddev.h"
 
 #include "hidtransport.h"
-#include "keypadids.h"
+#include "keypadprotocol.h"
+#include "keypadtable.h"
 
 #include <QDebug>
 #include <QElapsedTimer>
@@ -18,27 +19,13 @@ namespace {
 // The one device handle of the process; every VTHidDev works on it.
 std::atomic<HidDeviceHandle*> sharedHandle{nullptr};
 
-constexpr int LargeReportLength = 8017;
-constexpr int LargeChunkData = 8000;
-constexpr int SmallReportLength = 512;
-constexpr int SmallChunkData = 495;
-constexpr int ChunkHeaderLength = 17;
-constexpr int FeatureLength17 = 17;
-constexpr int FeatureLength33 = 33;
-constexpr int InputReportLength = 65;
-constexpr int KeyReportId = 0x01;
-constexpr int KeyReportLength = 9; // id and 64 key bits
+using namespace KeypadProtocol;
 
-constexpr int FirmwareHeaderLength = 64;
+constexpr int KeyReportLength = 1 + KeyStateBits / 8; // id and 64 key bits
+
 // The file overload of the main-model upgrade leaves the file's last 13 bytes
 // out of its checksum; the array overload does not. Both are kept as they are.
 constexpr int FirmwareFileTrailer = 13;
-
-constexpr int BootLoaderReportLength = 513;
-constexpr int BootLoaderPageSize = 2048;
-constexpr int BootLoaderPacketData = 506;
-constexpr uint16_t BootLoaderPageEnd = 0xFF00;
-constexpr uint16_t BootLoaderFinish = 0xFE00;
 
 // hidapi's Linux back ends count the bytes of a feature answer including the
 // report id, which is the buffer's length for a complete answer.
@@ -122,12 +109,12 @@ bool VTHidDev::vT_getDeviceInfo(int& vidOut, int& pidOut) const
 int VTHidDev::sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, int reportLength)
 {
     std::vector<uint8_t> report(size_t(reportLength), 0);
-    report[0] = 0x02;
+    report[0] = DataChunkId;
     putU32(&report[1], offset);
     putU32(&report[5], length);
-    putU32(&report[9], 0x55AAAA55);
-    putU32(&report[13], 0x44332211);
-    std::memcpy(&report[ChunkHeaderLength], data + offset, length);
+    putU32(&report[9], ChunkMagic);
+    putU32(&report[13], ChunkMagicTail);
+    std::memcpy(&report[ChunkHeaderSize], data + offset, length);
     return transport()->write(handle(), report.data(), report.size());
 }
 
@@ -136,14 +123,14 @@ int VTHidDev::sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, i
 // tells whether the device took the object.
 int VTHidDev::sendLargeChunks(const uint8_t* data, int size)
 {
-    const int fullChunks = size / LargeChunkData;
+    const int fullChunks = size / LargeChunkCapacity;
     for (int i = 0; i < fullChunks; ++i) {
-        sendChunk(data, uint32_t(i * LargeChunkData), LargeChunkData, LargeReportLength);
+        sendChunk(data, uint32_t(i * LargeChunkCapacity), LargeChunkCapacity, LargeChunkReportSize);
         delayMs(2);
     }
-    const int rest = size % LargeChunkData;
+    const int rest = size % LargeChunkCapacity;
     if (rest > 0) {
-        sendChunk(data, uint32_t(fullChunks * LargeChunkData), uint32_t(rest), LargeReportLength);
+        sendChunk(data, uint32_t(fullChunks * LargeChunkCapacity), uint32_t(rest), LargeChunkReportSize);
         delayMs(2);
     }
     return Err_Success;
@@ -152,13 +139,13 @@ int VTHidDev::sendLargeChunks(const uint8_t* data, int size)
 int VTHidDev::sendSmallChunks(const uint8_t* data, int size)
 {
     delayMs(1);
-    const int fullChunks = size / SmallChunkData;
+    const int fullChunks = size / SmallChunkCapacity;
     for (int i = 0; i < fullChunks; ++i)
-        sendChunk(data, uint32_t(i * SmallChunkData), SmallChunkData, SmallReportLength);
+        sendChunk(data, uint32_t(i * SmallChunkCapacity), SmallChunkCapacity, SmallChunkReportSize);
     delayMs(1);
-    const int rest = size % SmallChunkData;
+    const int rest = size % SmallChunkCapacity;
     if (rest > 0) {
-        sendChunk(data, uint32_t(fullChunks * SmallChunkData), uint32_t(rest), SmallReportLength);
+        sendChunk(data, uint32_t(fullChunks * SmallChunkCapacity), uint32_t(rest), SmallChunkReportSize);
         delayMs(1);
     }
     return Err_Success;
@@ -171,17 +158,17 @@ int VTHidDev::sendFeature(const uint8_t* report, int length)
 
 int VTHidDev::sendShowImage(uint8_t key, int size)
 {
-    uint8_t report[FeatureLength33] = {0x12, 0x01};
+    uint8_t report[ImageCommandReportSize] = {ImageCommandId, ShowImageSub};
     putU32(&report[4], key);
     putU32(&report[16], uint32_t(size));
-    return sendFeature(report, FeatureLength33) == FeatureLength33 ? Err_Success : Err_Failure;
+    return sendFeature(report, ImageCommandReportSize) == ImageCommandReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::sendClearKey(uint8_t key)
 {
     delayMs(3);
-    const uint8_t report[FeatureLength17] = {0x14, 0xAC, key};
-    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+    const uint8_t report[KeyCommandReportSize] = {KeyCommandId, ClearKeySub, key};
+    return sendFeature(report, KeyCommandReportSize) == KeyCommandReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::vT_WriteImage(uint8_t key, const uint8_t* data, int size)
@@ -214,8 +201,8 @@ int VTHidDev::vT_SetBacklight(int level)
 {
     if (!handle())
         return Err_NoDevice;
-    const uint8_t report[2] = {0x11, uint8_t(level)};
-    return sendFeature(report, 2) == 2 ? Err_Success : Err_Failure;
+    const uint8_t report[BacklightReportSize] = {BacklightId, uint8_t(level)};
+    return sendFeature(report, BacklightReportSize) == BacklightReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::vT_GetBacklight(int*)
@@ -239,12 +226,12 @@ int VTHidDev::vT_ReadSerialNo(uint8_t* serialNumber16)
 {
     if (!handle())
         return Err_NoDevice;
-    uint8_t buffer[FeatureLength17];
-    const int result =
-        readFeature(0x17, buffer, FeatureLength17, "VTHidDev::vT_ReadSerialNo", FeatureLength17 + CompleteAnswerExtra);
+    uint8_t buffer[SerialReportSize];
+    const int result = readFeature(SerialId, buffer, SerialReportSize, "VTHidDev::vT_ReadSerialNo",
+                                   SerialReportSize + CompleteAnswerExtra);
     if (result != Err_Success)
         return result;
-    std::memcpy(serialNumber16, buffer + 1, 16);
+    std::memcpy(serialNumber16, buffer + 1, SerialNumberLength);
     return Err_Success;
 }
 
@@ -252,18 +239,18 @@ int VTHidDev::vT_WriteSerialNo(const uint8_t* serialNumber16)
 {
     if (!handle())
         return Err_NoDevice;
-    uint8_t report[FeatureLength17] = {0x17};
-    std::memcpy(report + 1, serialNumber16, 16);
-    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+    uint8_t report[SerialReportSize] = {SerialId};
+    std::memcpy(report + 1, serialNumber16, SerialNumberLength);
+    return sendFeature(report, SerialReportSize) == SerialReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::vT_ReadFirmwareVersion(uint8_t* version12)
 {
     if (!handle())
         return Err_NoDevice;
-    uint8_t buffer[FeatureLength33 + 1] = {};
-    const int result = readFeature(0x10, buffer, FeatureLength33, "VTHidDev::vT_ReadFirmwareVersion",
-                                   FeatureLength33 + CompleteAnswerExtra);
+    uint8_t buffer[VersionReportSize + 1] = {};
+    const int result = readFeature(VersionId, buffer, VersionReportSize, "VTHidDev::vT_ReadFirmwareVersion",
+                                   VersionReportSize + CompleteAnswerExtra);
     if (result != Err_Success)
         return result;
     // The text starts at byte 1 and may fill the buffer: the extra zero byte
@@ -282,10 +269,10 @@ int VTHidDev::vT_ShowLogo()
 {
     if (!handle())
         return Err_NoDevice;
-    uint8_t report[FeatureLength33] = {0x12, 0x02};
-    putU32(&report[4], 999);
-    putU32(&report[8], 9999);
-    return sendFeature(report, FeatureLength33) == FeatureLength33 ? Err_Success : Err_Failure;
+    uint8_t report[ImageCommandReportSize] = {ImageCommandId, ShowLogoSub};
+    putU32(&report[4], LogoMarker);
+    putU32(&report[8], LogoMarkerTail);
+    return sendFeature(report, ImageCommandReportSize) == ImageCommandReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
@@ -295,7 +282,7 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
     if (!keys)
         return Err_ParamInvalid;
     std::memset(inputReport, 0, sizeof inputReport);
-    const int got = transport()->readTimeout(handle(), inputReport, InputReportLength, timeoutMs);
+    const int got = transport()->readTimeout(handle(), inputReport, InputReportSize, timeoutMs);
     if (got == 0)
         return Err_Timeout;
     if (got < 0) {
@@ -303,9 +290,9 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
         return Err_DeviceOpen;
     }
     // A key report cut short would leave key bits undefined: refuse it too.
-    if (inputReport[0] != KeyReportId || got < KeyReportLength)
+    if (inputReport[0] != KeyStateId || got < KeyReportLength)
         return Err_ParamInvalid;
-    for (int n = 0; n < 64; ++n)
+    for (int n = 0; n < KeyStateBits; ++n)
         keys->key[n] = (inputReport[1 + n / 8] >> (n % 8)) & 1;
     return Err_Success;
 }
@@ -313,10 +300,10 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
 int VTHidDev::sendFirmwareCommit(const QByteArray& image, uint32_t checksum)
 {
     sendLargeChunks(reinterpret_cast<const uint8_t*>(image.constData()), image.size());
-    uint8_t report[FeatureLength17] = {0x13};
+    uint8_t report[FirmwareCommitReportSize] = {FirmwareCommitId};
     putU32(&report[1], uint32_t(image.size()));
     putU32(&report[5], checksum);
-    return sendFeature(report, FeatureLength17) == FeatureLength17 ? Err_Success : Err_Failure;
+    return sendFeature(report, FirmwareCommitReportSize) == FirmwareCommitReportSize ? Err_Success : Err_Failure;
 }
 
 int VTHidDev::vT_FirmwareUpgrade(const char* path)
@@ -334,8 +321,8 @@ int VTHidDev::vT_FirmwareUpgrade(const char* path)
     } catch (const std::bad_alloc&) {
         return Err_NoMemory;
     }
-    const qint64 summed = image.size() - FirmwareHeaderLength - FirmwareFileTrailer;
-    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderLength, summed) : 0;
+    const qint64 summed = image.size() - FirmwareHeaderSize - FirmwareFileTrailer;
+    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderSize, summed) : 0;
     return sendFirmwareCommit(image, checksum);
 }
 
@@ -343,14 +330,14 @@ int VTHidDev::vT_FirmwareUpgrade(const QByteArray& image)
 {
     if (!handle())
         return Err_NoDevice;
-    const qint64 summed = image.size() - FirmwareHeaderLength;
-    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderLength, summed) : 0;
+    const qint64 summed = image.size() - FirmwareHeaderSize;
+    const uint32_t checksum = summed > 0 ? byteSum(image.constData() + FirmwareHeaderSize, summed) : 0;
     return sendFirmwareCommit(image, checksum);
 }
 
 int VTHidDev::sendBootLoaderControl(uint16_t page, uint16_t marker)
 {
-    uint8_t report[BootLoaderReportLength] = {0x00};
+    uint8_t report[BootReportSize] = {0x00};
     putU16(&report[1], page);
     putU16(&report[3], marker);
     const int written = transport()->write(handle(), report, sizeof report);
@@ -362,34 +349,34 @@ int VTHidDev::sendBootLoaderControl(uint16_t page, uint16_t marker)
 // end. A short last page is padded with zeros.
 int VTHidDev::sendBootLoaderPage(const QByteArray& body, int page)
 {
-    for (int offset = 0; offset < BootLoaderPageSize; offset += BootLoaderPacketData) {
-        const int length = std::min(BootLoaderPacketData, BootLoaderPageSize - offset);
-        uint8_t report[BootLoaderReportLength] = {0x00};
+    for (int offset = 0; offset < BootPageSize; offset += BootDataCapacity) {
+        const int length = std::min(BootDataCapacity, BootPageSize - offset);
+        uint8_t report[BootReportSize] = {0x00};
         putU16(&report[1], uint16_t(page));
         putU16(&report[3], uint16_t(offset));
         putU16(&report[5], uint16_t(length));
-        const int start = page * BootLoaderPageSize + offset;
+        const int start = page * BootPageSize + offset;
         const int available = std::clamp(body.size() - start, 0, length);
         std::memcpy(&report[7], body.constData() + start, size_t(available));
         transport()->write(handle(), report, sizeof report);
         delayMs(2);
     }
-    return sendBootLoaderControl(uint16_t(page), BootLoaderPageEnd);
+    return sendBootLoaderControl(uint16_t(page), BootPageEndMarker);
 }
 
 bool VTHidDev::bootLoaderAcknowledged()
 {
-    uint8_t answer[InputReportLength] = {};
+    uint8_t answer[InputReportSize] = {};
     const int got = transport()->readTimeout(handle(), answer, sizeof answer, 1000);
-    return got >= 2 && answer[0] == 0x02 && answer[1] == 0xB1;
+    return got >= 2 && answer[0] == AcknowledgeId && answer[1] == AcknowledgeCode;
 }
 
 int VTHidDev::vT_FirmwareUpgradeNUC442(const QByteArray& image)
 {
     if (!handle())
         return Err_NoDevice;
-    const uint8_t enterBootLoader[FeatureLength17] = {0x14, 0xDC, 0xCD};
-    sendFeature(enterBootLoader, FeatureLength17);
+    const uint8_t enterBootLoader[KeyCommandReportSize] = {KeyCommandId, BootLoaderSub, BootLoaderSub2};
+    sendFeature(enterBootLoader, KeyCommandReportSize);
     delayMs(1000);
 
     // The keypad is gone; its boot loader enumerates as a device of its own.
@@ -397,22 +384,22 @@ int VTHidDev::vT_FirmwareUpgradeNUC442(const QByteArray& image)
         transport()->close(keypad);
     if (transport()->init() != 0)
         return Err_DeviceOpen;
-    HidDeviceHandle* bootLoader = transport()->open(KeypadIds::VendorId, KeypadIds::BootLoaderProductId);
+    HidDeviceHandle* bootLoader = transport()->open(KeypadTable::VendorId, KeypadTable::BootLoaderProductId);
     if (!bootLoader)
         return Err_DeviceOpen;
     sharedHandle.store(bootLoader);
-    vid = KeypadIds::VendorId;
-    pid = KeypadIds::BootLoaderProductId;
+    vid = KeypadTable::VendorId;
+    pid = KeypadTable::BootLoaderProductId;
 
-    const QByteArray body = image.mid(FirmwareHeaderLength);
-    const int pages = (body.size() + BootLoaderPageSize - 1) / BootLoaderPageSize;
+    const QByteArray body = image.mid(FirmwareHeaderSize);
+    const int pages = (body.size() + BootPageSize - 1) / BootPageSize;
     for (int page = 0; page < pages; ++page) {
         sendBootLoaderPage(body, page);
         if (!bootLoaderAcknowledged())
             return Err_Failure;
         delayMs(100);
     }
-    sendBootLoaderControl(0, BootLoaderFinish);
+    sendBootLoaderControl(0, BootFinishMarker);
     delayMs(1000);
     return Err_Success;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "keypadprotocol.h"
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -8,7 +10,7 @@
 // The key states read from the keypad: byte n is 1 while key n is held down.
 struct KEYBUTTON_DATA
 {
-    uint8_t key[64];
+    uint8_t key[KeypadProtocol::KeyStateBits];
 };
 
 // Result codes of the device operations.
@@ -77,5 +79,5 @@ private:
     bool bootLoaderAcknowledged();
     int readFeature(uint8_t reportId, uint8_t* buffer, int length, const char* method, int expected);
 
-    uint8_t inputReport[65] = {};
+    uint8_t inputReport[KeypadProtocol::InputReportSize] = {};
 };

@@ -1,33 +1,16 @@
 #include "buttonlayoutconfig.h"
 
+#include "keypadtable.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "settings.h"
 #include "settingskeys.h"
 
-namespace {
-
-struct LayoutInfo
-{
-    const char* name;
-    int keys;
-    QSize panel;
-    QSize icon;
-};
-
-const LayoutInfo Layouts[] = {
-    {"H_Key_6", 6, QSize(316, 523), QSize(72, 72)},   {"V_Key_6", 6, QSize(316, 523), QSize(72, 72)},
-    {"H_Key_15", 15, QSize(466, 523), QSize(72, 72)}, {"V_Key_15", 15, QSize(466, 523), QSize(72, 72)},
-    {"H_Key_32", 32, QSize(508, 523), QSize(48, 48)}, {"V_Key_32", 32, QSize(508, 523), QSize(48, 48)},
-};
-
-} // namespace
-
 ButtonLayoutConfig::ButtonLayoutConfig(QObject* parent) : QObject(parent) {}
 
 bool ButtonLayoutConfig::isValidLayout(int layout)
 {
-    return layout >= 0 && layout < int(std::size(Layouts));
+    return KeypadTable::isValidLayout(layout);
 }
 
 int ButtonLayoutConfig::currentLayout() const
@@ -47,22 +30,22 @@ QSize ButtonLayoutConfig::iconSize() const
 
 int ButtonLayoutConfig::keyCount(int layout)
 {
-    return isValidLayout(layout) ? Layouts[layout].keys : 0;
+    return KeypadTable::keyCount(layout);
 }
 
 QSize ButtonLayoutConfig::iconSize(int layout)
 {
-    return isValidLayout(layout) ? Layouts[layout].icon : QSize();
+    return KeypadTable::iconSize(layout);
 }
 
 QSize ButtonLayoutConfig::panelSize(int layout)
 {
-    return isValidLayout(layout) ? Layouts[layout].panel : QSize();
+    return KeypadTable::panelSize(layout);
 }
 
 QString ButtonLayoutConfig::layoutName(int layout)
 {
-    return isValidLayout(layout) ? QLatin1String(Layouts[layout].name) : QString();
+    return KeypadTable::layoutName(layout);
 }
 
 int ButtonLayoutConfig::currentLayoutOf(int fallback)

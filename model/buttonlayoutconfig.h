@@ -1,6 +1,7 @@
 #pragma once
 
 #include "keylayout.h"
+#include "keypadtable.h"
 
 #include <QObject>
 #include <QSize>
@@ -12,7 +13,7 @@ class ButtonLayoutConfig : public QObject
     Q_OBJECT
 public:
     static constexpr int DefaultLayout = V_Key_15;
-    static constexpr int MaxKeyCount = 32;
+    static constexpr int MaxKeyCount = KeypadTable::MaxKeys;
 
     explicit ButtonLayoutConfig(QObject* parent = nullptr);
 

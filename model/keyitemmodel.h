@@ -2,6 +2,7 @@
 
 #include "keyactiontype.h"
 #include "keylayout.h"
+#include "keypadtable.h"
 
 #include <QList>
 #include <QMutex>
@@ -24,7 +25,7 @@ class KeyItemModel : public QObject
 public:
     static constexpr int SaveDelayMs = 1000;
     static constexpr int DeleteDelayMs = 5000;
-    static constexpr int MaxKeys = 32;
+    static constexpr int MaxKeys = KeypadTable::MaxKeys;
     static constexpr int LayoutCount = 6;
 
     struct KeyIndexEntry

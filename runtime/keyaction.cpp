@@ -6,41 +6,11 @@
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypadtable.h"
 #include "logging.h"
 #include "objectregistry.h"
 
-#include <iterator>
-
 namespace {
-
-constexpr int RowLength = 32;
-
-// Device key id -> button index, one row of 32 per layout, read at
-// layout * 32 + id. How each keypad model numbers its keys; kept as data.
-// The lookup is not bounded by the row: on layout 4 the id 32 reads the
-// first entry of layout 5's row and so reaches button 31.
-// clang-format off
-constexpr int DeviceKeyToButton[6 * RowLength] = {
-    // layout 0: id 0 -> 31, ids 1..15 -> 0..14
-    31, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
-    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
-    // layout 1
-    -1, 1, 3, 5, 0, 2, 4, -1, -1, -1, -1, -1, -1, -1, -1, -1, //
-    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
-    // layout 2
-    -1, 4, 3, 2, 1, 0, 9, 8, 7, 6, 5, 14, 13, 12, 11, 10, //
-    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
-    // layout 3
-    -1, 0, 3, 6, 9, 12, 1, 4, 7, 10, 13, 2, 5, 8, 11, 14, //
-    -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1,
-    // layout 4: ids 1..31 -> 0..30
-    -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
-    15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30,
-    // layout 5: id 0 -> 31, ids 1..31 -> 0..30
-    31, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, //
-    15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30,
-};
-// clang-format on
 
 int currentLayout()
 {
@@ -92,11 +62,7 @@ KeyAction::~KeyAction()
 
 int KeyAction::buttonIndex(int layout, int devKeyId)
 {
-    // Ids are never negative; the only reach beyond a row is id 32.
-    const int at = layout * RowLength + devKeyId;
-    if (layout < 0 || layout > 5 || devKeyId < 0 || at >= int(std::size(DeviceKeyToButton)))
-        return -1;
-    return DeviceKeyToButton[at];
+    return KeypadTable::buttonIndex(layout, devKeyId);
 }
 
 void KeyAction::onKeyPressed(int devKeyId)

@@ -1,28 +1,12 @@
 #include "keygridgeometry.h"
 
-#include "buttonlayoutconfig.h"
-#include "keylayout.h"
+#include "keypadtable.h"
 
 #include <algorithm>
 
 QSize KeyGridGeometry::gridShape(int layout)
 {
-    switch (layout) {
-    case H_Key_6:
-        return {3, 2};
-    case V_Key_6:
-        return {2, 3};
-    case H_Key_15:
-        return {5, 3};
-    case V_Key_15:
-        return {3, 5};
-    case H_Key_32:
-        return {8, 4};
-    case V_Key_32:
-        return {4, 8};
-    default:
-        return {};
-    }
+    return KeypadTable::gridShape(layout);
 }
 
 int KeyGridGeometry::spacing(const QSize& shape, const QSize& key, const QSize& panel)
@@ -40,8 +24,8 @@ QVector<QRect> KeyGridGeometry::keyRects(int layout)
     const QSize shape = gridShape(layout);
     if (!shape.isValid())
         return rects;
-    const QSize key = ButtonLayoutConfig::iconSize(layout) + QSize(2 * Bezel, 2 * Bezel);
-    const QSize panel = ButtonLayoutConfig::panelSize(layout);
+    const QSize key = KeypadTable::iconSize(layout) + QSize(2 * Bezel, 2 * Bezel);
+    const QSize panel = KeypadTable::panelSize(layout);
     const int gap = spacing(shape, key, panel);
     const QSize block(shape.width() * key.width() + (shape.width() - 1) * gap,
                       shape.height() * key.height() + (shape.height() - 1) * gap);

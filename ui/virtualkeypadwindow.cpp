@@ -1,9 +1,8 @@
 #include "virtualkeypadwindow.h"
 
 #include "buttonlayoutconfig.h"
-#include "hid_comm.h"
-#include "keyaction.h"
 #include "keygridgeometry.h"
+#include "keypadtable.h"
 #include "layoutmenu.h"
 #include "logging.h"
 #include "objectregistry.h"
@@ -16,7 +15,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QTransform>
 #include <QVBoxLayout>
 
 namespace {
@@ -83,34 +81,12 @@ QSize VirtualKeypadWindow::gridShape(int layout)
 // that lands on this button, whatever numbering the model uses.
 int VirtualKeypadWindow::deviceKeyId(int layout, int button)
 {
-    const int keys = ButtonLayoutConfig::keyCount(layout);
-    if (button < 0 || button >= keys)
-        return -1;
-    // The device thread only looks at the layout's own key bits, and a key's
-    // id is its bit + 1.
-    for (int id = 1; id <= keys; ++id) {
-        if (KeyAction::buttonIndex(layout, id) == button)
-            return id;
-    }
-    return -1;
+    return KeypadTable::deviceKeyId(layout, button);
 }
 
 QImage VirtualKeypadWindow::upright(const QImage& deviceImage, int layout)
 {
-    switch (layout) {
-    case H_Key_6:
-        return deviceImage.transformed(QTransform().rotate(270));
-    case V_Key_6:
-        return deviceImage.mirrored(false, true);
-    case H_Key_15:
-    case H_Key_32:
-        return deviceImage.transformed(QTransform().rotate(180));
-    case V_Key_15:
-    case V_Key_32:
-        return deviceImage.transformed(QTransform().rotate(90));
-    default:
-        return deviceImage;
-    }
+    return KeypadTable::uprightFromDevice(deviceImage, layout);
 }
 
 void VirtualKeypadWindow::rebuild(int layout)
@@ -151,7 +127,7 @@ void VirtualKeypadWindow::rebuild(int layout)
 void VirtualKeypadWindow::showKeyImage(int deviceKey)
 {
     for (int button = 0; button < m_keys.size(); ++button) {
-        if (Hid_Comm::deviceKeyNumber(m_layout, button) == deviceKey)
+        if (KeypadTable::deviceKeyNumber(m_layout, button) == deviceKey)
             showButtonImage(button);
     }
 }
@@ -161,7 +137,7 @@ void VirtualKeypadWindow::showButtonImage(int button)
     QLabel* label = key(button);
     if (!label)
         return;
-    const QImage shown = m_keypad ? m_keypad->keyImage(Hid_Comm::deviceKeyNumber(m_layout, button)) : QImage();
+    const QImage shown = m_keypad ? m_keypad->keyImage(KeypadTable::deviceKeyNumber(m_layout, button)) : QImage();
     QPixmap face(label->size());
     if (shown.isNull())
         face.fill(Qt::black);

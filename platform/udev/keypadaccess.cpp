@@ -1,6 +1,5 @@
 #include "keypadaccess.h"
 
-#include "keypadids.h"
 #include "logging.h"
 
 #include <QFile>
@@ -22,11 +21,11 @@ bool parseUsbId(const QByteArray& text, quint32* value)
     return true;
 }
 
-bool isKeypad(const KeypadAccess::UsbDevice& device, quint32* productId)
+bool isKeypad(const UsbIdFilter& keypads, const KeypadAccess::UsbDevice& device, quint32* productId)
 {
     quint32 vendorId = 0;
     return parseUsbId(device.idVendor, &vendorId) && parseUsbId(device.idProduct, productId) &&
-           KeypadIds::isSupportedKeypad(vendorId, *productId);
+           keypads.accepts(vendorId, *productId);
 }
 
 QByteArray toBytes(const char* text)
@@ -40,13 +39,13 @@ KeypadAccess::UsbDevice readDevice(udev_device* device)
             toBytes(udev_device_get_sysattr_value(device, "idProduct")), toBytes(udev_device_get_devnode(device))};
 }
 
-QVector<KeypadAccess::UsbDevice> enumerate(struct udev* context)
+QVector<KeypadAccess::UsbDevice> enumerate(struct udev* context, quint32 vendorId)
 {
     QVector<KeypadAccess::UsbDevice> devices;
     udev_enumerate* enumeration = udev_enumerate_new(context);
     if (!enumeration)
         return devices;
-    const QByteArray vendor = QByteArray::number(KeypadIds::VendorId, 16);
+    const QByteArray vendor = QByteArray::number(vendorId, 16);
     udev_enumerate_add_match_subsystem(enumeration, "usb");
     udev_enumerate_add_match_property(enumeration, "DEVTYPE", "usb_device");
     udev_enumerate_add_match_sysattr(enumeration, "idVendor", vendor.constData());
@@ -66,20 +65,20 @@ QVector<KeypadAccess::UsbDevice> enumerate(struct udev* context)
 
 } // namespace
 
-KeypadAccess::Result KeypadAccess::check()
+KeypadAccess::Result KeypadAccess::check(const UsbIdFilter& keypads)
 {
-    return evaluate(presentUsbDevices(), [](const QString& path) {
+    return evaluate(keypads, presentUsbDevices(keypads.vendorId), [](const QString& path) {
         return ::access(QFile::encodeName(path).constData(), R_OK | W_OK) == 0;
     });
 }
 
-KeypadAccess::Result KeypadAccess::evaluate(const QVector<UsbDevice>& devices,
+KeypadAccess::Result KeypadAccess::evaluate(const UsbIdFilter& keypads, const QVector<UsbDevice>& devices,
                                             const std::function<bool(const QString&)>& canReadWrite)
 {
     for (const UsbDevice& device : devices) {
         quint32 productId = 0;
         // Without a node there is nothing to open, whatever the rules say.
-        if (device.devNode.isEmpty() || !isKeypad(device, &productId))
+        if (device.devNode.isEmpty() || !isKeypad(keypads, device, &productId))
             continue;
         Result result;
         result.nodePath = QFile::decodeName(device.devNode);
@@ -97,14 +96,14 @@ QString KeypadAccess::fixText()
               "and replug the keypad.");
 }
 
-QVector<KeypadAccess::UsbDevice> KeypadAccess::presentUsbDevices()
+QVector<KeypadAccess::UsbDevice> KeypadAccess::presentUsbDevices(quint32 vendorId)
 {
     struct udev* context = udev_new();
     if (!context) {
         LOG_MSG(QStringLiteral("udev_new failed; cannot look for keypads!!"));
         return {};
     }
-    const QVector<UsbDevice> devices = enumerate(context);
+    const QVector<UsbDevice> devices = enumerate(context, vendorId);
     udev_unref(context);
     return devices;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "usbidfilter.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
@@ -38,16 +40,17 @@ public:
         QByteArray devNode;   // "/dev/bus/usb/001/004"
     };
 
-    // The first keypad present, checked with access(2) for reading and
-    // writing. NoKeypad also when udev cannot enumerate (logged).
-    static Result check();
+    // The first of the given keypads present, checked with access(2) for
+    // reading and writing. NoKeypad also when udev cannot enumerate (logged).
+    static Result check(const UsbIdFilter& keypads);
 
     // The decision over given devices; canReadWrite tells about one node.
-    static Result evaluate(const QVector<UsbDevice>& devices, const std::function<bool(const QString&)>& canReadWrite);
+    static Result evaluate(const UsbIdFilter& keypads, const QVector<UsbDevice>& devices,
+                           const std::function<bool(const QString&)>& canReadWrite);
 
     // What the user can do about NoPermission, as one sentence.
     static QString fixText();
 
-    // The USB devices of the keypads' vendor that udev knows of.
-    static QVector<UsbDevice> presentUsbDevices();
+    // The USB devices of that vendor that udev knows of.
+    static QVector<UsbDevice> presentUsbDevices(quint32 vendorId);
 };

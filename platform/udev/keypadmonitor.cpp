@@ -1,7 +1,6 @@
 #include "keypadmonitor.h"
 
 #include "hidid.h"
-#include "keypadids.h"
 #include "logging.h"
 #include "udevhidrawsource.h"
 
@@ -27,14 +26,15 @@ QString hex(quint32 value)
 
 } // namespace
 
-KeypadMonitor::KeypadMonitor(QObject* parent) : QObject(parent)
+KeypadMonitor::KeypadMonitor(UsbIdFilter keypads, QObject* parent) : QObject(parent), m_keypads(std::move(keypads))
 {
     QString reason;
     std::unique_ptr<HidrawEventSource> source = UdevHidrawSource::create(&reason);
     listen(std::move(source), reason);
 }
 
-KeypadMonitor::KeypadMonitor(std::unique_ptr<HidrawEventSource> source, QObject* parent) : QObject(parent)
+KeypadMonitor::KeypadMonitor(UsbIdFilter keypads, std::unique_ptr<HidrawEventSource> source, QObject* parent)
+    : QObject(parent), m_keypads(std::move(keypads))
 {
     listen(std::move(source), QStringLiteral("no event source"));
 }
@@ -77,7 +77,7 @@ void KeypadMonitor::handleEvent(const HidrawEventSource::Event& event)
                          QString::fromUtf8(event.devicePath)));
         return;
     }
-    if (!KeypadIds::isSupportedKeypad(id->vendorId, id->productId))
+    if (!m_keypads.accepts(id->vendorId, id->productId))
         return;
     if (added) {
         LOG_MSG(QStringLiteral("keypad hidraw node added: vid %1, pid %2").arg(hex(id->vendorId), hex(id->productId)));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "hidraweventsource.h"
+#include "usbidfilter.h"
 
 #include <QObject>
 #include <memory>
@@ -21,10 +22,11 @@ class KeypadMonitor : public QObject
     Q_OBJECT
 
 public:
-    // Listens to udev. Without udev it logs once and stays silent.
-    explicit KeypadMonitor(QObject* parent = nullptr);
+    // Listens to udev for the given keypads. Without udev it logs once and
+    // stays silent.
+    explicit KeypadMonitor(UsbIdFilter keypads, QObject* parent = nullptr);
     // Listens to the given source; null gives the same silent monitor.
-    explicit KeypadMonitor(std::unique_ptr<HidrawEventSource> source, QObject* parent = nullptr);
+    KeypadMonitor(UsbIdFilter keypads, std::unique_ptr<HidrawEventSource> source, QObject* parent = nullptr);
     ~KeypadMonitor() override;
 
     // False when there is nothing to listen to.
@@ -41,6 +43,7 @@ private:
     void listen(std::unique_ptr<HidrawEventSource> source, const QString& missingReason);
     void onReadable();
 
+    UsbIdFilter m_keypads;
     std::unique_ptr<HidrawEventSource> m_source;
     QSocketNotifier* m_notifier = nullptr;
 };

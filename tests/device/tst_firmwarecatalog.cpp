@@ -1,5 +1,5 @@
 #include "firmwarecatalog.h"
-#include "keylayout.h"
+#include "keypadtable.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -18,34 +18,16 @@ private slots:
         QVERIFY(QDir().mkpath(folder));
     }
 
-    void shouldChooseTheFirmwareByLayout_data()
+    // Even with an image whose name holds the words, an unknown keypad is
+    // never offered one.
+    void shouldOfferNothingForAnUnknownDevice()
     {
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<bool>("vendorLibrary");
-        QTest::addColumn<QString>("firmwareId");
-        QTest::newRow("6 keys, horizontal") << 0 << "VKP-6P" << false << "F28B23P1F43";
-        QTest::newRow("6 keys, vertical") << 1 << "VKP-6P" << false << "F28B23P1F42";
-        QTest::newRow("15 keys, horizontal") << 2 << "VKP-15P" << false << "F43B35P1F41";
-        QTest::newRow("15 keys, vertical") << 3 << "VKP-15P" << false << "F43B35P1F40";
-        QTest::newRow("15 keys, maker's library") << 3 << "VKP-15P" << true << "VKP15-01-0";
-        QTest::newRow("32 keys, horizontal") << 4 << "VKP-32L" << false << "F70B48P1F44";
-        QTest::newRow("32 keys, vertical") << 5 << "VKP-32L" << false << "F70B48P1F44";
-        QTest::newRow("no layout") << -1 << "Unknown Device" << false << "Unknown Device";
-        QTest::newRow("beyond the layouts") << 6 << "Unknown Device" << false << "Unknown Device";
-    }
-
-    void shouldChooseTheFirmwareByLayout()
-    {
-        QFETCH(int, layout);
-        QFETCH(bool, vendorLibrary);
-        QFETCH(QString, model);
-        QFETCH(QString, firmwareId);
-        QCOMPARE(FirmwareCatalog::modelName(layout), model);
-        QCOMPARE(FirmwareCatalog::firmwareId(layout, vendorLibrary), firmwareId);
+        put("Unknown Device_170121.bin");
+        const QString id = KeypadTable::firmwareId(-1, false);
+        QVERIFY(!FirmwareCatalog::isKnownDevice(id));
         FirmwareCatalog::Entry entry;
-        if (!FirmwareCatalog::isKnownDevice(firmwareId))
-            QVERIFY(!FirmwareCatalog::packagedVersion(firmwareId, vendorLibrary, entry));
+        QVERIFY(!FirmwareCatalog::packagedVersion(id, false, entry));
+        QVERIFY(!FirmwareCatalog::packagedVersion(id, true, entry));
     }
 
     void shouldReadTheVersionFromTheImageName()

@@ -54,6 +54,8 @@ public:
     bool receive(Event*) override { return false; }
 };
 
+// The caller says which keypads count; 0x1F46 and the boot loader do not.
+const UsbIdFilter Keypads{0xFFFF, {0x1F43, 0x1F40, 0x1F45, 0x110E}};
 const QByteArray Add = "add";
 const QByteArray Remove = "remove";
 const QByteArray KeypadPath = "/devices/pci0000:00/0000:00:14.0/usb1/1-2/1-2:1.0/0003:FFFF:1F43.0007/hidraw/hidraw3";
@@ -93,7 +95,7 @@ private slots:
         QFETCH(QByteArray, hidId);
         QFETCH(QByteArray, path);
         QFETCH(QString, announced);
-        KeypadMonitor monitor(std::unique_ptr<HidrawEventSource>{});
+        KeypadMonitor monitor(Keypads, std::unique_ptr<HidrawEventSource>{});
         QStringList notices;
         connect(&monitor, &KeypadMonitor::keypadArrived, this,
                 [&](quint32 vid, quint32 pid) { notices << QStringLiteral("+%1:%2").arg(vid, 0, 16).arg(pid, 0, 16); });
@@ -110,7 +112,7 @@ private slots:
     {
         auto source = std::make_unique<ScriptedSource>();
         ScriptedSource* script = source.get();
-        KeypadMonitor monitor(std::move(source));
+        KeypadMonitor monitor(Keypads, std::move(source));
         QVERIFY(monitor.isActive());
         QSignalSpy arrived(&monitor, &KeypadMonitor::keypadArrived);
         QSignalSpy removed(&monitor, &KeypadMonitor::keypadRemoved);
@@ -136,7 +138,7 @@ private slots:
     {
         QFETCH(bool, noDescriptor);
         LogCapture capture;
-        KeypadMonitor monitor(noDescriptor ? std::make_unique<NoDescriptorSource>() : nullptr);
+        KeypadMonitor monitor(Keypads, noDescriptor ? std::make_unique<NoDescriptorSource>() : nullptr);
         QVERIFY(!monitor.isActive());
         QCOMPARE(capture.matching(QStringLiteral("No keypad hot-plug notices")).size(), 1);
         // Filtering still works for events handed in from elsewhere.
@@ -150,7 +152,7 @@ private slots:
     void shouldLogOnceWhenUdevIsMissing()
     {
         LogCapture capture;
-        KeypadMonitor monitor;
+        KeypadMonitor monitor(Keypads);
         QCOMPARE(capture.matching(QStringLiteral("No keypad hot-plug notices")).size(), monitor.isActive() ? 0 : 1);
     }
 };

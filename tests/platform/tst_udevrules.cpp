@@ -1,6 +1,6 @@
 // The packaged udev rules: well-formed, and covering every keypad the program
 // drives, so a model added to the program cannot be left out of the rules.
-#include "keypadids.h"
+#include "keypadtable.h"
 #include "testmain.h"
 
 #include <QFile>
@@ -46,9 +46,9 @@ private slots:
 
     void shouldGrantEveryKeypadNodeAndUinputToTheSeatUser()
     {
-        QVector<quint32> ids = KeypadIds::supportedProductIds();
-        ids.append(KeypadIds::BootLoaderProductId);
-        const QString vendor = hex4(KeypadIds::VendorId);
+        QVector<quint32> ids = KeypadTable::productIds();
+        ids.append(KeypadTable::BootLoaderProductId);
+        const QString vendor = hex4(KeypadTable::VendorId);
         for (const quint32 pid : qAsConst(ids)) {
             QVERIFY(
                 hasSeatRule({QStringLiteral("SUBSYSTEM==\"usb\""), QStringLiteral("ATTR{idVendor}==\"%1\"").arg(vendor),

@@ -22,35 +22,6 @@ class TestKeyAction : public QObject
     Q_OBJECT
 
 private slots:
-    void shouldMapDeviceKeysToButtons_data()
-    {
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<int>("devKeyId");
-        QTest::addColumn<int>("button");
-        QTest::newRow("6 keys vertical: key 4") << 1 << 4 << 0;
-        QTest::newRow("6 keys vertical: key 1") << 1 << 1 << 1;
-        QTest::newRow("6 keys vertical: key 7") << 1 << 7 << -1;
-        QTest::newRow("6 keys horizontal: key 0") << 0 << 0 << 31;
-        QTest::newRow("6 keys horizontal: key 1") << 0 << 1 << 0;
-        QTest::newRow("6 keys horizontal: key 16") << 0 << 16 << -1;
-        QTest::newRow("15 keys horizontal: key 1") << 2 << 1 << 4;
-        QTest::newRow("15 keys horizontal: key 15") << 2 << 15 << 10;
-        QTest::newRow("15 keys vertical: key 2") << 3 << 2 << 3;
-        QTest::newRow("32 keys: key 31") << 4 << 31 << 30;
-        QTest::newRow("32 keys: key 32 reaches the next row") << 4 << 32 << 31;
-        QTest::newRow("32 keys vertical: key 32 is beyond the table") << 5 << 32 << -1;
-        QTest::newRow("no key") << 2 << -1 << -1;
-        QTest::newRow("no layout") << 6 << 1 << -1;
-    }
-
-    void shouldMapDeviceKeysToButtons()
-    {
-        QFETCH(int, layout);
-        QFETCH(int, devKeyId);
-        QFETCH(int, button);
-        QCOMPARE(KeyAction::buttonIndex(layout, devKeyId), button);
-    }
-
     void init()
     {
         fx.setUp();

@@ -1,6 +1,6 @@
-#include "keyaction.h"
 #include "keyeventrecorder.h"
 #include "keypadfixture.h"
+#include "keypadtable.h"
 #include "testmain.h"
 #include "virtualkeypadwindow.h"
 
@@ -26,13 +26,13 @@ bool showsMarkUpright(const QImage& image)
     return white(0.05, 0.05) && white(0.4, 0.05) && !white(0.05, 0.4) && !white(0.95, 0.05) && !white(0.05, 0.95);
 }
 
-// "press 5" -> "press <the button KeyAction acts on for id 5>".
+// "press 5" -> "press <the button the program acts on for id 5>".
 QStringList asButtons(const QStringList& keyEvents, int layout)
 {
     QStringList buttons;
     for (const QString& event : keyEvents) {
         const QStringList parts = event.split(QLatin1Char(' '));
-        buttons << parts[0] + QLatin1Char(' ') + QString::number(KeyAction::buttonIndex(layout, parts[1].toInt()));
+        buttons << parts[0] + QLatin1Char(' ') + QString::number(KeypadTable::buttonIndex(layout, parts[1].toInt()));
     }
     return buttons;
 }
