@@ -58,7 +58,7 @@ constexpr int FolderConditionIntervalMs = 600;
 
 // The key panel of the default layout (15 keys, vertical) until the key grid
 // sizes it for the layout in force.
-const QSize DefaultKeyPanelSize(466, 523);
+const QSize DefaultKeyPanelSize = ButtonLayoutConfig::panelSize(ButtonLayoutConfig::DefaultLayout);
 
 // The visible frame's border, drawn by the style sheet around the content.
 constexpr int FrameBorder = 1;

@@ -9,6 +9,8 @@
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypadprotocol.h"
+#include "keypadtable.h"
 #include "log.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -73,10 +75,11 @@ double hostPageMs(const KeyItemModel& model, int layout, int rounds)
 // The pauses the protocol asks for, per key image of this many bytes.
 double floorMsPerKey(int layout, int imageBytes)
 {
-    if (layout == H_Key_6 || layout == V_Key_6)
-        return imageBytes % 495 ? 3.0 : 2.0;
-    const double chunks = (imageBytes + 7999) / 8000;
-    return 2.0 * chunks + (layout == H_Key_32 ? 1.0 : 0.0);
+    if (KeypadTable::usesSmallPackets(layout))
+        return imageBytes % KeypadProtocol::SmallChunkCapacity ? 3.0 : 2.0;
+    const int capacity = KeypadProtocol::LargeChunkCapacity;
+    const double chunks = (imageBytes + capacity - 1) / capacity;
+    return 2.0 * chunks + KeypadTable::writePauseMs(layout);
 }
 
 void pageCosts(KeyItemModel& model, ButtonLayoutConfig& layouts, Hid_Comm& hid, SimulatedKeypad& keypad)

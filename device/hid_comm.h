@@ -29,7 +29,7 @@ class Hid_Comm : public QThread
     Q_OBJECT
 
 public:
-    static constexpr int KeyImageSize = 72;
+    static constexpr int KeyImageSize = KeypadTable::KeyImageSize;
     static constexpr int MaxKeys = KeypadTable::MaxKeys;
 
     explicit Hid_Comm(QObject* parent = nullptr);

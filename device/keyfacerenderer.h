@@ -1,5 +1,7 @@
 #pragma once
 
+#include "keypadtable.h"
+
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -41,7 +43,7 @@ struct KeyRenderInfo;
 class KeyFaceRenderer
 {
 public:
-    static constexpr int FaceSize = 72;
+    static constexpr int FaceSize = KeypadTable::KeyImageSize;
 
     enum HintFlag
     {

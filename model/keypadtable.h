@@ -27,6 +27,9 @@ constexpr quint32 VendorLibraryProductId = 0x110E;
 
 constexpr int LayoutCount = 6;
 constexpr int MaxKeys = 32;
+// Every key's screen, in pixels (width and height); the editor's icons are
+// smaller on the 32-key layouts.
+constexpr int KeyImageSize = 72;
 
 // How a key image is turned before it goes to the keypad: the way the
 // layout's keypad has its screens mounted.

@@ -120,6 +120,7 @@ private slots:
         if (!facts)
             return;
         QCOMPARE(int(facts->layout), layout);
+        QCOMPARE(KeypadTable::KeyImageSize, 72);
         QCOMPARE(grid.width() * grid.height(), keys);
         // A layout's model is one the device thread tries, on our own protocol.
         QCOMPARE(facts->productId, productId);
