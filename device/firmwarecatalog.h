@@ -10,7 +10,7 @@
 // has one. A name says which keypad an image is for and its version:
 // firmware id + "_" + build + ".bin" for our own protocol (version
 // "1.0." + build), firmware id + "_V" + version + ".sys" for the model driven
-// through its maker's library.
+// through its maker's library. Which id a keypad needs is in KeypadTable.
 class FirmwareCatalog
 {
 public:

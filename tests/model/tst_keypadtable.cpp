@@ -72,21 +72,34 @@ private slots:
         QTest::addColumn<QString>("vendorFirmware");
         QTest::addColumn<quint32>("productId");
         QTest::newRow("0") << 0 << "H_Key_6" << 6 << QSize(316, 523) << QSize(72, 72) << QSize(3, 2) << true << 0
-                           << "VKP-6P" << "F28B23P1F43" << "F28B23P1F43" << quint32(0x1F43);
+                           << "VKP-6P"
+                           << "F28B23P1F43"
+                           << "F28B23P1F43" << quint32(0x1F43);
         QTest::newRow("1") << 1 << "V_Key_6" << 6 << QSize(316, 523) << QSize(72, 72) << QSize(2, 3) << true << 0
-                           << "VKP-6P" << "F28B23P1F42" << "F28B23P1F42" << quint32(0x1F42);
+                           << "VKP-6P"
+                           << "F28B23P1F42"
+                           << "F28B23P1F42" << quint32(0x1F42);
         QTest::newRow("2") << 2 << "H_Key_15" << 15 << QSize(466, 523) << QSize(72, 72) << QSize(5, 3) << false << 0
-                           << "VKP-15P" << "F43B35P1F41" << "F43B35P1F41" << quint32(0x1F41);
+                           << "VKP-15P"
+                           << "F43B35P1F41"
+                           << "F43B35P1F41" << quint32(0x1F41);
         QTest::newRow("3") << 3 << "V_Key_15" << 15 << QSize(466, 523) << QSize(72, 72) << QSize(3, 5) << false << 0
-                           << "VKP-15P" << "F43B35P1F40" << "VKP15-01-0" << quint32(0x1F40);
+                           << "VKP-15P"
+                           << "F43B35P1F40"
+                           << "VKP15-01-0" << quint32(0x1F40);
         QTest::newRow("4") << 4 << "H_Key_32" << 32 << QSize(508, 523) << QSize(48, 48) << QSize(8, 4) << false << 1
-                           << "VKP-32L" << "F70B48P1F44" << "F70B48P1F44" << quint32(0x1F44);
+                           << "VKP-32L"
+                           << "F70B48P1F44"
+                           << "F70B48P1F44" << quint32(0x1F44);
         QTest::newRow("5") << 5 << "V_Key_32" << 32 << QSize(508, 523) << QSize(48, 48) << QSize(4, 8) << false << 0
-                           << "VKP-32L" << "F70B48P1F44" << "F70B48P1F44" << quint32(0x1F44);
+                           << "VKP-32L"
+                           << "F70B48P1F44"
+                           << "F70B48P1F44" << quint32(0x1F44);
         for (int invalid : {-1, 6}) {
             QTest::newRow(qPrintable(QString::number(invalid)))
                 << invalid << QString() << 0 << QSize() << QSize() << QSize() << false << 0 << "Unknown Device"
-                << "Unknown Device" << "Unknown Device" << quint32(0);
+                << "Unknown Device"
+                << "Unknown Device" << quint32(0);
         }
     }
 
