@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 
 #include "actionlist.h"
+#include "agentcore.h"
 #include "buttonlayoutconfig.h"
 #include "clicklabel.h"
 #include "dialog.h"
@@ -8,29 +9,21 @@
 #include "foldercondition.h"
 #include "formarea.h"
 #include "functiondescription.h"
-#include "hid_comm.h"
 #include "ipc_thread.h"
 #include "keyaction.h"
-#include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
-#include "keypadmonitor.h"
-#include "keypadusbids.h"
+#include "keypadstatus.h"
 #include "layoutmenu.h"
 #include "logging.h"
 #include "objectregistry.h"
-#include "runtimeactionservices.h"
 #include "settings.h"
-#include "settingskeys.h"
-#include "sleepmonitor.h"
-#include "taskproxy.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "trayicon.h"
 #include "treeview.h"
-#include "updatedevicon.h"
 #include "virtualkey.h"
 #include "virtualkeypad.h"
 #include "widgetlook.h"
@@ -54,12 +47,6 @@
 
 namespace {
 
-constexpr int FolderConditionIntervalMs = 600;
-
-// The key panel of the default layout (15 keys, vertical) until the key grid
-// sizes it for the layout in force.
-const QSize DefaultKeyPanelSize = ButtonLayoutConfig::panelSize(ButtonLayoutConfig::DefaultLayout);
-
 // The visible frame's border, drawn by the style sheet around the content.
 constexpr int FrameBorder = 1;
 
@@ -72,22 +59,14 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     LOG_MSG(QStringLiteral("%1 %2 starting, log %3")
                 .arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(), m_log.filePath()));
 
-    m_windowSystem = WindowSystem::create();
-    LOG_MSG(QStringLiteral("window system: %1").arg(m_windowSystem->name()));
-    // Read on the typing thread at each keystroke: the native window is made
-    // again whenever its flags change.
-    VirtualKey::setWindowSystem(m_windowSystem.get(), [this] { return quint64(internalWinId()); });
+    UserQuestions::setHandler(&Dialog::ask);
     connect(VirtualKey::instance(), &VirtualKey::keystrokesUnavailable, this,
             [this](const QString& fix) { tellUser(tr("Hotkeys and macros cannot type keys."), fix); });
 
-    // Key faces are also drawn on the key action thread; the title font is
-    // registered here first, before any thread draws text.
-    KeyFaceRenderer::ensureFontsLoaded();
+    createCore();
     buildWindow();
-    createModel();
     buildEditor();
-    createDevice();
-    createRuntime();
+    connectCore();
     setupTray();
     setupVirtualKeypad();
 
@@ -109,18 +88,32 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 MainWindow::~MainWindow()
 {
     stopThreads();
-    VirtualKey::setWindowSystem(nullptr, nullptr);
-    m_keyItemModel->flushPendingSave();
+    m_core->keyItemModel()->flushPendingSave();
     if (m_settings)
         m_settings->sync();
     UserQuestions::setHandler(nullptr);
+    VirtualKey::setMainWindowId(0);
+    // The editor's widgets and helpers go before the core whose objects they
+    // show, and the core before the log it writes to.
+    while (!children().isEmpty())
+        delete children().constFirst();
+    m_core.reset();
     LOG_MSG(QStringLiteral("main window closed%1").arg(m_restartFlag ? QStringLiteral(", restarting") : QString()));
     ObjectRegistry::unregisterMainWindow();
-    for (ComponentId id :
-         {ComponentId::KeyItemModel, ComponentId::Settings, ComponentId::ButtonLayoutConfig, ComponentId::HidComm})
-        ObjectRegistry::unregisterObject(id);
     if (m_restartFlag)
         startRestartedInstance();
+}
+
+// The core first: the window is built for the layout it read.
+void MainWindow::createCore()
+{
+    m_core = std::make_unique<AgentCore>();
+    Settings* store = m_core->settingsStore();
+    if (!store->damagedCopyPath().isEmpty())
+        tellUser(tr("Your settings were damaged and have been reset."),
+                 tr("The damaged file was kept as %1.").arg(store->damagedCopyPath()));
+    connect(store, &Settings::settingImported, this, &MainWindow::onLayoutImported);
+    connect(store, &Settings::myFavoriteImported, this, &MainWindow::onFavoritesImported);
 }
 
 void MainWindow::buildWindow()
@@ -173,32 +166,7 @@ void MainWindow::buildWindow()
     content->addWidget(m_rightColumn);
     frameLayout->addLayout(content, 1);
 
-    setKeyPanelSize(DefaultKeyPanelSize);
-}
-
-void MainWindow::createModel()
-{
-    UserQuestions::setHandler(&Dialog::ask);
-    m_store = new Settings(this);
-    ObjectRegistry::registerObject(ComponentId::Settings, m_store);
-    if (!m_store->damagedCopyPath().isEmpty())
-        tellUser(tr("Your settings were damaged and have been reset."),
-                 tr("The damaged file was kept as %1.").arg(m_store->damagedCopyPath()));
-
-    m_layoutConfig = new ButtonLayoutConfig(this);
-    ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, m_layoutConfig);
-    m_keyItemModel = new KeyItemModel(this);
-    ObjectRegistry::registerObject(ComponentId::KeyItemModel, m_keyItemModel);
-    m_favorites = new FavoriteKeyItemModel(this);
-
-    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this,
-            [this](KeyLayout layout) { onButtonLayoutChanged(layout); });
-    connect(m_store, &Settings::settingImported, this, &MainWindow::onLayoutImported);
-    connect(m_store, &Settings::myFavoriteImported, this, &MainWindow::onFavoritesImported);
-
-    m_keyItemModel->reloadKeyItemsFromSettings();
-    m_favorites->reloadKeyItemsFromSettings();
-    m_layoutConfig->reloadLayout();
+    setKeyPanelSize(ButtonLayoutConfig::panelSize(layoutConfig()->currentLayout()));
 }
 
 // The editor: the key grid on the left; on the right the action palette, the
@@ -223,8 +191,8 @@ void MainWindow::buildEditor()
     m_layoutMenu = new LayoutMenu(this);
 
     connectEditor();
-    m_grid->changeLayoutButtonView(KeyLayout(m_layoutConfig->currentLayout()));
-    m_layoutMenu->setCurrentLayout(m_layoutConfig->currentLayout());
+    m_grid->changeLayoutButtonView(KeyLayout(layoutConfig()->currentLayout()));
+    m_layoutMenu->setCurrentLayout(layoutConfig()->currentLayout());
     m_treeView->onUpdateContent(nullptr);
     showFunctionDescription(FormArea::NoDescription, false);
 }
@@ -233,18 +201,21 @@ void MainWindow::buildEditor()
 // keypad), so the views hear of it queued.
 void MainWindow::connectEditor()
 {
-    connect(m_keyItemModel, &KeyItemModel::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
-            Qt::QueuedConnection);
+    KeyItemModel* model = keyItemModel();
+    ButtonLayoutConfig* layouts = layoutConfig();
+    connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, this,
+            [this](KeyLayout layout) { setKeyPanelSize(ButtonLayoutConfig::panelSize(layout)); });
+    connect(model, &KeyItemModel::updateContent, m_grid, &KeyItemGridView::onUpdateContent, Qt::QueuedConnection);
     // A rebuilt outline has no current row; the grid's selection is put back.
     connect(
-        m_keyItemModel, &KeyItemModel::updateContent, m_treeView,
+        model, &KeyItemModel::updateContent, m_treeView,
         [this](const KeyItem* item) {
             m_treeView->onUpdateContent(item);
             m_treeView->onButtonIdxChanged(m_grid->selectedKeyIdx());
         },
         Qt::QueuedConnection);
-    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_grid, &KeyItemGridView::changeLayoutButtonView);
-    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_layoutMenu,
+    connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, m_grid, &KeyItemGridView::changeLayoutButtonView);
+    connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, m_layoutMenu,
             [this](KeyLayout layout) { m_layoutMenu->setCurrentLayout(layout); });
 
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, m_treeView, &TreeView::onButtonIdxChanged);
@@ -252,7 +223,7 @@ void MainWindow::connectEditor()
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, this, &MainWindow::onKeySelected);
     connect(m_grid, &KeyItemGridView::closeFunctionDescription, m_formArea, &FormArea::closeFunctionDescription);
     connect(m_treeView, &TreeView::treeItemChanged, m_grid, &KeyItemGridView::onTreeItemChanged);
-    m_grid->setFavoriteInserter([this](const KeyItem* item) { return m_favorites->appendKeyItem(item); });
+    m_grid->setFavoriteInserter([this](const KeyItem* item) { return favorites()->appendKeyItem(item); });
 
     connect(m_actionList, &ActionList::actionItemSelected, this, [this](int actionType) {
         if (actionType >= 0)
@@ -261,7 +232,22 @@ void MainWindow::connectEditor()
     connect(m_actionList, &ActionList::preferenceRequested, this, [this] { m_layoutMenu->popup(QCursor::pos()); });
     connect(m_actionList, &ActionList::favoriteWindowRequested, this,
             [] { LOG_MSG(QStringLiteral("My Favorite window requested")); });
-    connect(m_layoutMenu, &LayoutMenu::layoutChosen, m_layoutConfig, &ButtonLayoutConfig::changeLayout);
+    connect(m_layoutMenu, &LayoutMenu::layoutChosen, layouts, &ButtonLayoutConfig::changeLayout);
+}
+
+// What the core does shows in the editor: faces flipped from the keypad, the
+// description reset when the window goes to the background, the keypad's
+// state in the status line.
+void MainWindow::connectCore()
+{
+    connect(m_core->keyAction(), &KeyAction::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
+            Qt::QueuedConnection);
+    // Away from the editor, no key stays selected under a stale description.
+    connect(m_core->folderCondition(), &FolderCondition::functionDescriptionWanted, this,
+            [this](int actionType) { showFunctionDescription(actionType, true); });
+    KeypadStatus* status = m_core->keypadStatus();
+    connect(status, &KeypadStatus::stateChanged, this, &MainWindow::showKeypadStatus);
+    showKeypadStatus(status->state());
 }
 
 void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
@@ -275,70 +261,17 @@ void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
 // an empty key shows how to give it one.
 void MainWindow::onKeySelected(int keyIdx)
 {
-    const int type = m_keyItemModel->actionTypeAt(keyIdx);
+    const int type = keyItemModel()->actionTypeAt(keyIdx);
     showFunctionDescription(type >= KAT_FOLDER && type <= KAT_PASTE_STRING ? type : FormArea::NoDescription, false);
-}
-
-// The keypad connection starts polling at once; the layout in force reaches
-// it first, so the first full update after it opens has a layout to use.
-void MainWindow::createDevice()
-{
-    m_hidComm = new Hid_Comm;
-    ObjectRegistry::registerObject(ComponentId::HidComm, m_hidComm);
-    m_hidComm->onButtonLayoutChanged(KeyLayout(m_layoutConfig->currentLayout()));
-    connect(m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, m_hidComm, &Hid_Comm::onButtonLayoutChanged,
-            Qt::DirectConnection);
-    connect(m_hidComm, &Hid_Comm::KeyboardStatusChange, this, &MainWindow::onKeyboardStatusChange,
-            Qt::QueuedConnection);
-
-    m_keypadMonitor = new KeypadMonitor(keypadUsbIds(), this);
-    connect(m_keypadMonitor, &KeypadMonitor::keypadArrived, m_hidComm, &Hid_Comm::onKeyboardWasAdded);
-    connect(m_keypadMonitor, &KeypadMonitor::keypadRemoved, m_hidComm, &Hid_Comm::onKeyboardWasRemoved);
-    m_sleepMonitor = new SleepMonitor(this);
-    connect(m_sleepMonitor, &SleepMonitor::aboutToSleep, m_hidComm, &Hid_Comm::onOS_suspend);
-    connect(m_sleepMonitor, &SleepMonitor::resumed, m_hidComm, &Hid_Comm::onOS_resumes);
-
-    // Every failed open attempt says "disconnected"; the status line looks
-    // once the attempts have settled.
-    m_keypadStatusTimer = new QTimer(this);
-    m_keypadStatusTimer->setSingleShot(true);
-    m_keypadStatusTimer->setInterval(200);
-    connect(m_keypadStatusTimer, &QTimer::timeout, this, &MainWindow::showKeypadStatus);
-    // The model may change on the key action thread; key images are made on
-    // this one.
-    connect(m_keyItemModel, &KeyItemModel::updateContent, this, &MainWindow::onModelContentChanged,
-            Qt::QueuedConnection);
-    connect(
-        m_layoutConfig, &ButtonLayoutConfig::buttonLayoutChanged, this, [] { UpdateDevIcon::updateAllIcon(); },
-        Qt::QueuedConnection);
-}
-
-// Key presses reach the actions on the key action thread; launches and
-// websites run on the task thread; folder conditions watch the foreground
-// application while this window is in the background.
-void MainWindow::createRuntime()
-{
-    m_taskProxy = new TaskProxy;
-    ObjectRegistry::registerObject(ComponentId::TaskProxy, m_taskProxy);
-    m_actionServices = std::make_unique<RuntimeActionServices>(WindowSystem::create());
-    ActionServices::setInstance(m_actionServices.get());
-
-    m_keyAction = new KeyAction;
-    connect(m_hidComm, &Hid_Comm::keyPressed, m_keyAction, &KeyAction::onKeyPressed, Qt::QueuedConnection);
-    connect(m_hidComm, &Hid_Comm::keyReleased, m_keyAction, &KeyAction::onKeyRleased, Qt::QueuedConnection);
-    connect(m_keyAction, &KeyAction::updateContent, m_grid, &KeyItemGridView::onUpdateContent, Qt::QueuedConnection);
-
-    m_folderCondition = new FolderCondition(FolderConditionIntervalMs, this);
 }
 
 void MainWindow::watchForegroundApplications(bool background)
 {
-    if (!m_folderCondition)
-        return;
+    FolderCondition* folderCondition = m_core->folderCondition();
     if (background)
-        m_folderCondition->startFolderConditionDetect();
+        folderCondition->startFolderConditionDetect();
     else
-        m_folderCondition->stopFolderConditionDetect();
+        folderCondition->stopFolderConditionDetect();
 }
 
 void MainWindow::hideEvent(QHideEvent* event)
@@ -363,69 +296,54 @@ void MainWindow::changeEvent(QEvent* event)
         QTimer::singleShot(0, this, [this] { watchForegroundApplications(isHidden() || isMinimized()); });
 }
 
-void MainWindow::onKeyboardStatusChange(bool connected)
-{
-    if (!m_hidComm)
-        return;
-    m_keypadStatusTimer->start();
-    if (connected)
-        UpdateDevIcon::updateAllIcon();
-}
-
 // Connected, absent, or present but out of reach for lack of permission:
 // the last one names its fix, because nothing else would tell the user.
-void MainWindow::showKeypadStatus()
+void MainWindow::showKeypadStatus(int state)
 {
-    if (!m_hidComm)
-        return;
-    if (m_hidComm->isOpened() && m_virtualKeypad && m_virtualKeypad->isActive()) {
-        setKeypadStatus(tr("Virtual keypad connected"), QStringLiteral("virtual"));
-        return;
-    }
-    if (m_hidComm->isOpened()) {
-        setKeypadStatus(tr("Keypad connected"), QStringLiteral("connected"));
-        return;
-    }
-    const KeypadAccess::Result access = KeypadAccess::check(keypadUsbIds());
-    if (access.status == KeypadAccess::NoPermission) {
-        LOG_MSG(QStringLiteral("keypad at %1 cannot be opened: no permission").arg(access.nodePath));
+    switch (state) {
+    case KeypadStatus::Connected:
+        if (m_virtualKeypad && m_virtualKeypad->isActive())
+            setKeypadStatus(tr("Virtual keypad connected"), QStringLiteral("virtual"));
+        else
+            setKeypadStatus(tr("Keypad connected"), QStringLiteral("connected"));
+        break;
+    case KeypadStatus::NoPermission:
         setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()),
                         QStringLiteral("denied"));
-        return;
+        break;
+    default:
+        setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
+        break;
     }
-    setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
 }
 
-// A null item stands for the whole page (a folder opened, a layout change).
-void MainWindow::onModelContentChanged(const KeyItem* item)
+bool MainWindow::event(QEvent* event)
 {
-    if (!item)
-        UpdateDevIcon::updateAllIcon();
-    else if (item->ownerList == m_keyItemModel->getCurrentLayoutListHead())
-        UpdateDevIcon::updateKeyIcon(item);
+    // The typing thread must not ask the window: it is told the id here,
+    // each time the native window is made again (its flags changed).
+    if (event->type() == QEvent::WinIdChange)
+        VirtualKey::setMainWindowId(quint64(internalWinId()));
+    return QWidget::event(event);
 }
 
-void MainWindow::onButtonLayoutChanged(int layout)
+AgentCore* MainWindow::core() const
 {
-    m_keyItemModel->changeLayoutButtonView(KeyLayout(layout));
-    m_store->setValue(SettingsKeys::LastKbLayout, layout);
-    setKeyPanelSize(ButtonLayoutConfig::panelSize(layout));
-    LOG_MSG(QStringLiteral("layout: %1").arg(ButtonLayoutConfig::layoutName(layout)));
+    return m_core.get();
 }
 
 KeyItemModel* MainWindow::keyItemModel() const
 {
-    return m_keyItemModel;
+    return m_core->keyItemModel();
 }
 
 FavoriteKeyItemModel* MainWindow::favorites() const
 {
-    return m_favorites;
+    return m_core->favorites();
 }
 
 ButtonLayoutConfig* MainWindow::layoutConfig() const
 {
-    return m_layoutConfig;
+    return m_core->layoutConfig();
 }
 
 void MainWindow::tellUser(const QString& subject, const QString& text)
@@ -454,7 +372,7 @@ void MainWindow::setupTray()
 // has installed it before the device thread started, and it is on from the start.
 void MainWindow::setupVirtualKeypad()
 {
-    m_virtualKeypad = new VirtualKeypad(m_hidComm, m_layoutConfig, this);
+    m_virtualKeypad = new VirtualKeypad(m_core->hidComm(), layoutConfig(), this);
     connect(m_tray, &TrayIcon::virtualKeypadToggled, m_virtualKeypad, &VirtualKeypad::setActive);
     connect(m_virtualKeypad, &VirtualKeypad::activeChanged, m_tray, &TrayIcon::setVirtualKeypadChecked);
 }
@@ -546,7 +464,7 @@ void MainWindow::bringWindowToFront()
     if (isMinimized())
         setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
-    m_windowSystem->activateWindow(windowHandle());
+    m_core->windowSystem()->activateWindow(windowHandle());
 }
 
 void MainWindow::openExtensionFile(const QString& path)
@@ -554,7 +472,7 @@ void MainWindow::openExtensionFile(const QString& path)
     LOG_MSG(QStringLiteral("open extension file: %1").arg(path));
     bringWindowToFront();
     m_importFileName = QFileInfo(path).fileName();
-    const Settings::ExportFile file = m_store->importFile(path);
+    const Settings::ExportFile file = m_core->settingsStore()->importFile(path);
     if (!file.isValid())
         tellUser(tr("%1 could not be imported.").arg(m_importFileName), file.error);
     m_importFileName.clear();
@@ -562,7 +480,8 @@ void MainWindow::openExtensionFile(const QString& path)
 
 void MainWindow::onLayoutImported(const QVariantMap& page)
 {
-    const int layout = m_keyItemModel->currentLayout();
+    KeyItemModel* model = keyItemModel();
+    const int layout = model->currentLayout();
     int dropped = 0;
     const QList<KeyItem*> items = KeyItemModel::keyItemsFromMap(page, layout, &dropped);
 
@@ -579,14 +498,15 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
         LOG_MSG(QStringLiteral("layout import cancelled"));
         return;
     }
-    m_keyItemModel->replaceCurrentLayoutItems(items);
+    model->replaceCurrentLayoutItems(items);
     LOG_MSG(QStringLiteral("layout imported, %1 keys dropped").arg(dropped));
 }
 
 void MainWindow::onFavoritesImported(const QVariantMap& favorites)
 {
-    m_favorites->appendKeyItemFromImportedFile(favorites);
-    LOG_MSG(QStringLiteral("favorites imported, now %1").arg(m_favorites->count()));
+    FavoriteKeyItemModel* model = this->favorites();
+    model->appendKeyItemFromImportedFile(favorites);
+    LOG_MSG(QStringLiteral("favorites imported, now %1").arg(model->count()));
 }
 
 void MainWindow::showAboutBox()
@@ -607,7 +527,7 @@ void MainWindow::quitApplication()
     m_quitting = true;
     LOG_MSG(QStringLiteral("quit requested"));
     stopThreads();
-    m_keyItemModel->flushPendingSave();
+    keyItemModel()->flushPendingSave();
     if (m_settings)
         m_settings->sync();
     m_tray->setVisible(false);
@@ -648,26 +568,13 @@ void MainWindow::toggleFromTray()
         bringWindowToFront();
 }
 
+// The hand-over thread first, so no request reaches a window on its way
+// out; then the core's threads in their own order.
 void MainWindow::stopThreads()
 {
     if (m_ipcThread)
         m_ipcThread->stop();
-    if (m_folderCondition)
-        m_folderCondition->stopFolderConditionDetect();
-    // Keys first, so no action starts while the rest goes away.
-    delete m_keyAction;
-    m_keyAction = nullptr;
-    ActionServices::setInstance(nullptr);
-    if (m_taskProxy) {
-        ObjectRegistry::unregisterObject(ComponentId::TaskProxy);
-        delete m_taskProxy;
-        m_taskProxy = nullptr;
-    }
-    if (m_hidComm) {
-        ObjectRegistry::unregisterObject(ComponentId::HidComm);
-        delete m_hidComm;
-        m_hidComm = nullptr;
-    }
+    m_core->stop();
 }
 
 void MainWindow::startRestartedInstance()

@@ -7,36 +7,27 @@
 #include <memory>
 
 class ActionList;
+class AgentCore;
 class ButtonLayoutConfig;
 class FavoriteKeyItemModel;
-class FolderCondition;
 class FormArea;
-class Hid_Comm;
-class KeyAction;
-class RuntimeActionServices;
-class TaskProxy;
-class KeypadMonitor;
-class SleepMonitor;
-class KeyItem;
 class IPC_Thread;
 class KeyItemGridView;
 class KeyItemModel;
 class LayoutMenu;
-class Settings;
 class QLabel;
 class QSettings;
-class QTimer;
 class QTranslator;
 class TerminationSignals;
 class TitleBar;
 class TrayIcon;
 class TreeView;
 class VirtualKeypad;
-class WindowSystem;
 
-// The editor window. It owns the log, builds and wires every subsystem, lives
-// in the tray while closed, and is the target of the hand-over requests of
-// later starts.
+// The editor window. It owns the log and, made first, the agent core that
+// keeps the keypad running; around that it builds the editor's widgets, the
+// tray icon and the on-screen keypad. It lives in the tray while closed and
+// is the target of the hand-over requests of later starts.
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -72,6 +63,7 @@ public:
     VirtualKeypad* virtualKeypad() const;
 
     Log* log();
+    AgentCore* core() const;
     KeyItemModel* keyItemModel() const;
     FavoriteKeyItemModel* favorites() const;
     ButtonLayoutConfig* layoutConfig() const;
@@ -93,24 +85,22 @@ public slots:
     void onFavoritesImported(const QVariantMap& favorites);
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    void createCore();
     void buildWindow();
-    void createModel();
     void buildEditor();
     void connectEditor();
+    void connectCore();
     void onKeySelected(int keyIdx);
-    void createDevice();
-    void createRuntime();
     void watchForegroundApplications(bool background);
-    void onKeyboardStatusChange(bool connected);
-    void showKeypadStatus();
-    void onModelContentChanged(const KeyItem* item);
-    void onButtonLayoutChanged(int layout);
+    // A KeypadStatus::State.
+    void showKeypadStatus(int state);
     void tellUser(const QString& subject, const QString& text);
     void setupTray();
     void setupVirtualKeypad();
@@ -122,12 +112,8 @@ private:
     // First member: every other member and subsystem may log while it is built.
     Log m_log;
     QSettings* m_settings = nullptr;
-    Settings* m_store = nullptr;
-    ButtonLayoutConfig* m_layoutConfig = nullptr;
-    KeyItemModel* m_keyItemModel = nullptr;
-    FavoriteKeyItemModel* m_favorites = nullptr;
+    std::unique_ptr<AgentCore> m_core;
     QString m_importFileName;
-    std::unique_ptr<WindowSystem> m_windowSystem;
     TitleBar* m_titleBar = nullptr;
     QWidget* m_keyPanel = nullptr;
     QWidget* m_rightColumn = nullptr;
@@ -141,14 +127,6 @@ private:
     VirtualKeypad* m_virtualKeypad = nullptr;
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
-    Hid_Comm* m_hidComm = nullptr;
-    TaskProxy* m_taskProxy = nullptr;
-    KeyAction* m_keyAction = nullptr;
-    FolderCondition* m_folderCondition = nullptr;
-    std::unique_ptr<RuntimeActionServices> m_actionServices;
-    KeypadMonitor* m_keypadMonitor = nullptr;
-    SleepMonitor* m_sleepMonitor = nullptr;
-    QTimer* m_keypadStatusTimer = nullptr;
     bool m_restartFlag = false;
     bool m_quitting = false;
 };

@@ -105,10 +105,7 @@ bool FolderCondition::mainWindowInBackground()
     if (!logMsgWhenRetFail(window->isHidden() || window->isMinimized(),
                            QStringLiteral("mainwindow not in background, stop folder condition detecting !!")))
         return false;
-    // Checked first so a main window without the description panel stays
-    // quiet instead of warning about a missing method.
-    if (window->metaObject()->indexOfMethod("showFunctionDescription(int)") >= 0)
-        QMetaObject::invokeMethod(window, "showFunctionDescription", Q_ARG(int, -1));
+    emit functionDescriptionWanted(-1);
     return true;
 }
 

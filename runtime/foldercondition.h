@@ -32,6 +32,12 @@ public:
     bool isDetecting() const;
     QList<KA_Folder*> watchList() const;
 
+signals:
+    // Going to the background: the main window's description panel shows
+    // the drag hint (actionType -1), so the editor comes back without a
+    // stale description.
+    void functionDescriptionWanted(int actionType);
+
 public slots:
     void startFolderConditionDetect();
     void stopFolderConditionDetect();

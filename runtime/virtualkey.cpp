@@ -10,6 +10,7 @@
 #include <QThread>
 #include <QVector>
 
+#include <atomic>
 #include <memory>
 
 namespace {
@@ -26,7 +27,9 @@ QMutex typingMutex;
 std::unique_ptr<KeystrokeBackend> chosenBackend;
 KeystrokeBackend* setBackendPointer = nullptr;
 WindowSystem* windowSystem = nullptr;
-std::function<quint64()> mainWindowId;
+// Written on the GUI thread, read while typing: never the window itself,
+// which belongs to the GUI thread.
+std::atomic<quint64> mainWindow{0};
 bool userTold = false;
 
 KeystrokeBackend* currentBackend()
@@ -74,14 +77,14 @@ void makeForeground(quint64 windowId)
 // does not apply.
 quint64 moveAwayFromBroadcaster()
 {
-    if (!windowSystem || !mainWindowId || windowSystem->foregroundWindowTitle() != BroadcasterTitle)
+    const quint64 mainWindowId = mainWindow.load();
+    if (!windowSystem || mainWindowId == 0 || windowSystem->foregroundWindowTitle() != BroadcasterTitle)
         return 0;
-    const quint64 mainWindow = mainWindowId();
     const quint64 previous = windowSystem->foregroundWindowId();
-    if (mainWindow == 0 || previous == mainWindow)
+    if (previous == mainWindowId)
         return 0;
     LOG_MSG(QStringLiteral("keystroke with %1 in front: main window brought forward").arg(BroadcasterTitle));
-    makeForeground(mainWindow);
+    makeForeground(mainWindowId);
     return previous;
 }
 
@@ -158,11 +161,20 @@ void VirtualKey::setBackend(KeystrokeBackend* backend)
     userTold = false;
 }
 
-void VirtualKey::setWindowSystem(WindowSystem* system, std::function<quint64()> windowId)
+void VirtualKey::setWindowSystem(WindowSystem* system)
 {
     QMutexLocker lock(&typingMutex);
     windowSystem = system;
-    mainWindowId = std::move(windowId);
+}
+
+void VirtualKey::setMainWindowId(quint64 windowId)
+{
+    mainWindow.store(windowId);
+}
+
+quint64 VirtualKey::mainWindowId()
+{
+    return mainWindow.load();
 }
 
 bool VirtualKey::checkAvailable()

@@ -5,8 +5,6 @@
 #include <QList>
 #include <QObject>
 
-#include <functional>
-
 class KeystrokeBackend;
 class WindowSystem;
 
@@ -41,11 +39,14 @@ public:
     // sets null before deleting it. Until one is set, the first keystroke
     // chooses one with KeystrokeBackend::create() and keeps it.
     static void setBackend(KeystrokeBackend* backend);
-    // For the broadcaster rule: the desktop's windows and the main window's
-    // native id, asked for at each keystroke on the typing thread (the id
-    // changes when the window is made again). Without them the rule is
-    // skipped.
-    static void setWindowSystem(WindowSystem* windowSystem, std::function<quint64()> mainWindowId);
+    // For the broadcaster rule: the desktop's windows. Without them the rule
+    // is skipped.
+    static void setWindowSystem(WindowSystem* windowSystem);
+    // The main window's native id, told by the GUI thread whenever that
+    // window is made again (its flags changed) and read by the typing
+    // thread; 0 while it has none, which skips the rule.
+    static void setMainWindowId(quint64 windowId);
+    static quint64 mainWindowId();
 
     // Whether keystrokes can be sent. When they cannot, the first call (or
     // keystroke) logs it and emits keystrokesUnavailable; later ones stay

@@ -1,12 +1,15 @@
 #include "dialog.h"
+#include "formarea.h"
 #include "ipc_thread.h"
 #include "ka_paststring.h"
 #include "keyitem.h"
+#include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "mainwindow.h"
 #include "objectregistry.h"
 #include "settings.h"
 #include "testmain.h"
+#include "virtualkey.h"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -26,6 +29,7 @@ private slots:
             MainWindow window(&settings, false);
             QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), &window);
             QCOMPARE(ObjectRegistry::mainWindowLog(), window.log());
+            QCOMPARE(ObjectRegistry::find(ComponentId::KeyItemModel), window.keyItemModel());
             QFile file(window.log()->filePath());
             QVERIFY(file.open(QIODevice::ReadOnly));
             const QString firstLine = QString::fromUtf8(file.readLine());
@@ -33,6 +37,45 @@ private slots:
         }
         QCOMPARE(ObjectRegistry::find(ComponentId::MainWindow), nullptr);
         QCOMPARE(ObjectRegistry::mainWindowLog(), nullptr);
+        QCOMPARE(ObjectRegistry::find(ComponentId::KeyItemModel), nullptr);
+        QCOMPARE(ObjectRegistry::find(ComponentId::HidComm), nullptr);
+    }
+
+    // Going to the background leaves no key selected under a stale
+    // description: the editor comes back with the drag hint.
+    void shouldShowTheDragHintWhenItGoesToTheBackground()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.keyGrid()->cancelPreviousAndThenSelectKeyButton(3);
+        window.showFunctionDescription(KAT_HOTKEY, false);
+        QCOMPARE(window.keyGrid()->selectedKeyIdx(), 3);
+
+        window.showMinimized();
+        QTRY_COMPARE_WITH_TIMEOUT(window.formArea()->shownActionType(), -1, 30000);
+        QCOMPARE(window.keyGrid()->selectedKeyIdx(), -1);
+    }
+
+    // The typing thread never asks the window; it is told the native id each
+    // time the window is made again.
+    void shouldTellTheTypingThreadItsNativeWindow()
+    {
+        QSettings settings;
+        {
+            MainWindow window(&settings, false);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QVERIFY(window.internalWinId() != 0);
+            QCOMPARE(VirtualKey::mainWindowId(), quint64(window.internalWinId()));
+            // Start-up sets the window's flags after building it.
+            window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            QCOMPARE(VirtualKey::mainWindowId(), quint64(window.internalWinId()));
+        }
+        QCOMPARE(VirtualKey::mainWindowId(), quint64(0));
     }
 
     void shouldBeTheKeyPanelPlusTheRightColumnWide()

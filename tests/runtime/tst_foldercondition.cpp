@@ -9,6 +9,7 @@
 #include "settings.h"
 #include "testmain.h"
 
+#include <QSignalSpy>
 #include <QWidget>
 
 namespace {
@@ -32,15 +33,6 @@ private:
     QStringList* m_presses;
 };
 
-class MainWindowWithDescription : public QWidget
-{
-    Q_OBJECT
-public:
-    Q_INVOKABLE void showFunctionDescription(int index) { descriptions << index; }
-
-    QList<int> descriptions;
-};
-
 } // namespace
 
 class FolderConditionTest : public QObject
@@ -58,7 +50,7 @@ private slots:
         m_model = std::make_unique<KeyItemModel>();
         m_model->changeLayoutButtonView(V_Key_15);
         ObjectRegistry::registerObject(ComponentId::KeyItemModel, m_model.get());
-        m_mainWindow = std::make_unique<MainWindowWithDescription>();
+        m_mainWindow = std::make_unique<QWidget>();
         ObjectRegistry::registerObject(ComponentId::MainWindow, m_mainWindow.get());
 
         auto windowSystem = std::make_unique<FakeWindowSystem>();
@@ -138,9 +130,13 @@ private slots:
             m_condition = std::make_unique<FolderCondition>(600);
 
         LogCapture capture;
+        QSignalSpy descriptions(m_condition.get(), &FolderCondition::functionDescriptionWanted);
         m_condition->startFolderConditionDetect();
         m_condition->startFolderConditionDetect();
         QVERIFY(!m_condition->isDetecting());
+        // Only a main window in the background is told.
+        const bool inBackground = reason != QLatin1String("visible") && reason != QLatin1String("none");
+        QCOMPARE(descriptions.size(), inBackground ? 2 : 0);
         QVERIFY(m_condition->watchList().isEmpty());
         // The desktop does not change between starts: said once is enough.
         const bool desktop = reason == QLatin1String("desktop") || reason == QLatin1String("offscreen");
@@ -199,11 +195,12 @@ private slots:
         auto windowSystem = std::make_unique<FakeWindowSystem>();
         windowSystem->setForegroundApplication(QStringLiteral("editor"));
         FolderCondition condition(10, std::move(windowSystem));
+        QSignalSpy descriptions(&condition, &FolderCondition::functionDescriptionWanted);
         addFolder(1, QStringLiteral("editor"));
         m_mainWindow->showMinimized();
         condition.startFolderConditionDetect();
         QVERIFY(condition.isDetecting());
-        QCOMPARE(m_mainWindow->descriptions, QList<int>{-1});
+        QCOMPARE(descriptions, QList<QVariantList>{{-1}});
         QTRY_COMPARE(m_presses.size(), 1);
     }
 
@@ -239,7 +236,7 @@ private:
     std::unique_ptr<Settings> m_settings;
     ButtonLayoutConfig m_layouts;
     std::unique_ptr<KeyItemModel> m_model;
-    std::unique_ptr<MainWindowWithDescription> m_mainWindow;
+    std::unique_ptr<QWidget> m_mainWindow;
     FakeWindowSystem* m_windowSystem = nullptr;
     std::unique_ptr<FolderCondition> m_condition;
     QStringList m_presses;

@@ -54,7 +54,8 @@ private slots:
 
     void cleanup()
     {
-        VirtualKey::setWindowSystem(nullptr, nullptr);
+        VirtualKey::setWindowSystem(nullptr);
+        VirtualKey::setMainWindowId(0);
         VirtualKey::setBackend(nullptr);
         m_backend.reset();
     }
@@ -153,12 +154,17 @@ private slots:
         QTest::addColumn<quint64>("foreground");
         QTest::addColumn<QString>("title");
         QTest::addColumn<bool>("obeys");
+        QTest::addColumn<quint64>("mainWindow");
         QTest::addColumn<bool>("moved");
-        QTest::newRow("broadcaster in front") << OtherWindow << Broadcaster << true << true;
-        QTest::newRow("window manager refuses") << OtherWindow << Broadcaster << false << true;
-        QTest::newRow("another program") << OtherWindow << QStringLiteral("Editor") << true << false;
-        QTest::newRow("similar title") << OtherWindow << (Broadcaster + QStringLiteral(" - Scene 1")) << true << false;
-        QTest::newRow("main window with that title") << MainWindow << Broadcaster << true << false;
+        QTest::newRow("broadcaster in front") << OtherWindow << Broadcaster << true << MainWindow << true;
+        QTest::newRow("window manager refuses") << OtherWindow << Broadcaster << false << MainWindow << true;
+        QTest::newRow("another program") << OtherWindow << QStringLiteral("Editor") << true << MainWindow << false;
+        QTest::newRow("similar title") << OtherWindow << (Broadcaster + QStringLiteral(" - Scene 1")) << true
+                                       << MainWindow << false;
+        QTest::newRow("main window with that title") << MainWindow << Broadcaster << true << MainWindow << false;
+        // Not yet shown, or its native window just went away.
+        QTest::newRow("main window without a native window")
+            << OtherWindow << Broadcaster << true << quint64(0) << false;
     }
 
     void shouldTypeWithTheMainWindowInFrontOfTheBroadcaster()
@@ -166,11 +172,13 @@ private slots:
         QFETCH(quint64, foreground);
         QFETCH(QString, title);
         QFETCH(bool, obeys);
+        QFETCH(quint64, mainWindow);
         QFETCH(bool, moved);
         FakeWindowSystem windows;
         windows.setForeground(foreground, title);
         windows.setObeysActivation(obeys);
-        VirtualKey::setWindowSystem(&windows, [] { return MainWindow; });
+        VirtualKey::setWindowSystem(&windows);
+        VirtualKey::setMainWindowId(mainWindow);
 
         VirtualKey::sendKeyEvent(0x41, false, false, true, false);
         const Events events = m_backend->events();

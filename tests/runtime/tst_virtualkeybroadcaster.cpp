@@ -56,7 +56,8 @@ private slots:
         XTestKeystrokeBackend backend;
         VirtualKey::setBackend(&backend);
         const quint64 mainWindowId = mainWindow.winId();
-        VirtualKey::setWindowSystem(windowSystem.get(), [mainWindowId] { return mainWindowId; });
+        VirtualKey::setWindowSystem(windowSystem.get());
+        VirtualKey::setMainWindowId(mainWindowId);
         // Typed off the GUI thread, as the key action thread does, so the
         // windows keep receiving events meanwhile.
         std::atomic<bool> done{false};
@@ -72,7 +73,8 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(windowSystem->foregroundWindowId(), quint64(broadcaster.winId()), WaitMs);
         QVERIFY(broadcaster.keys.isEmpty());
 
-        VirtualKey::setWindowSystem(nullptr, nullptr);
+        VirtualKey::setWindowSystem(nullptr);
+        VirtualKey::setMainWindowId(0);
         VirtualKey::setBackend(nullptr);
     }
 };
