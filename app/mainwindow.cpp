@@ -432,8 +432,8 @@ void MainWindow::tellUser(const QString& subject, const QString& text)
     UserQuestion message;
     message.subject = subject;
     message.text = text;
-    message.rightText = tr("OK");
-    message.defaultButton = Dialog::RightButton;
+    message.buttons[UserQuestion::RightSlot] = UserQuestion::Ok;
+    message.defaultButton = UserQuestion::Ok;
     UserQuestions::ask(message);
 }
 
@@ -571,9 +571,9 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
                        .arg(m_importFileName);
     if (dropped > 0)
         confirm.text += QLatin1Char('\n') + tr("%n key(s) do not fit this layout and will be lost.", nullptr, dropped);
-    confirm.midText = tr("Cancel");
-    confirm.rightText = tr("Import");
-    if (UserQuestions::ask(confirm).buttonText != tr("Import")) {
+    confirm.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
+    confirm.buttons[UserQuestion::RightSlot] = UserQuestion::Import;
+    if (UserQuestions::ask(confirm).button != UserQuestion::Import) {
         qDeleteAll(items);
         LOG_MSG(QStringLiteral("layout import cancelled"));
         return;

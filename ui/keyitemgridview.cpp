@@ -759,9 +759,10 @@ bool KeyItemGridView::confirmFavoriteLayout(const KeyItem* favorite, const KeyIt
     UserQuestion question;
     question.subject = tr("The limit of folder is different.");
     question.text = tr("If continues, some items may be lost. Are you sure you want to proceed?");
-    question.midText = tr("Cancel");
-    question.rightText = tr("Continue");
-    return UserQuestions::ask(question).buttonText != tr("Cancel");
+    question.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
+    question.buttons[UserQuestion::RightSlot] = UserQuestion::Continue;
+    // Closing the dialog without a choice goes on, as the delete question does.
+    return UserQuestions::ask(question).button != UserQuestion::Cancel;
 }
 
 // ---- edits ----
@@ -833,11 +834,12 @@ bool KeyItemGridView::handleKB_DelConfirmMsgBox()
     UserQuestion question;
     question.subject = tr("Are you sure you want to delete this item?");
     question.text = tr("You can't undo this action.");
-    question.midText = tr("Cancel");
-    question.rightText = tr("Delete");
+    question.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
+    question.buttons[UserQuestion::RightSlot] = UserQuestion::Delete;
     question.checkBoxText = tr("Don't ask me again");
     const UserAnswer answer = UserQuestions::ask(question);
-    const bool agreed = answer.buttonText != tr("Cancel");
+    // Only Cancel says no: closing the dialog without a choice deletes.
+    const bool agreed = answer.button != UserQuestion::Cancel;
     if (agreed && answer.checked && settings)
         settings->setValue(SettingsKeys::DeleteItemDontShowAgain, true);
     return agreed;

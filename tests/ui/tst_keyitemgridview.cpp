@@ -150,7 +150,7 @@ private slots:
         favorites = 0;
         UserQuestions::setHandler([this](const UserQuestion& question) {
             asked << question.subject;
-            return answers.isEmpty() ? UserAnswer{QStringLiteral("Cancel"), false} : answers.takeFirst();
+            return answers.isEmpty() ? UserAnswer{UserQuestion::Cancel, false} : answers.takeFirst();
         });
     }
 
@@ -383,7 +383,8 @@ private slots:
             put(idx, KAT_PASTE_STRING);
         QSignalSpy closes(grid, &KeyItemGridView::closeFunctionDescription);
         const auto dontAskAgain = [this] { return settings->value("msg_box_delete_item_dont_show_again").toBool(); };
-        answers << UserAnswer{"Cancel", true} << UserAnswer{"Delete", false} << UserAnswer{"Delete", true};
+        answers << UserAnswer{UserQuestion::Cancel, true} << UserAnswer{UserQuestion::Delete, false}
+                << UserAnswer{UserQuestion::Delete, true};
         grid->controller_delEvent(0, false);
         QVERIFY(model->keyItemAt(0) && closes.isEmpty() && !dontAskAgain());
         grid->controller_delEvent(0, false);
@@ -441,7 +442,7 @@ private slots:
     {
         const auto small = favoriteFolder(V_Key_6, 3);
         const auto large = favoriteFolder(V_Key_32, 20);
-        answers << UserAnswer{"Cancel", false} << UserAnswer{"Continue", false};
+        answers << UserAnswer{UserQuestion::Cancel, false} << UserAnswer{UserQuestion::Continue, false};
         dragOnto(payload("favorite", small.get()), 1, true);
         QVERIFY(asked.isEmpty());
         for (int idx : {2, 3})
