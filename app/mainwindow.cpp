@@ -62,6 +62,9 @@ const QSize DefaultKeyPanelSize(466, 523);
 // The visible frame's border, drawn by the style sheet around the content.
 constexpr int FrameBorder = 1;
 
+// The key grid widens the window by the same room when its layout changes.
+constexpr int RightColumnWidth = KeyItemGridView::MainWindowExtraWidth;
+
 } // namespace
 
 MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* parent)
@@ -167,7 +170,7 @@ void MainWindow::buildWindow()
     m_rightColumn = new QWidget(frame);
     m_rightColumn->setObjectName(QStringLiteral("RightColumn"));
     m_rightColumn->setAttribute(Qt::WA_StyledBackground);
-    // The frame's border belongs to the column's 400 pixels.
+    // The frame's border belongs to the column's width.
     m_rightColumn->setFixedWidth(RightColumnWidth - 2 * FrameBorder);
     content->addWidget(m_rightColumn);
     frameLayout->addLayout(content, 1);
