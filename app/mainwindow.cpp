@@ -50,6 +50,9 @@ namespace {
 // The visible frame's border, drawn by the style sheet around the content.
 constexpr int FrameBorder = 1;
 
+// The key grid widens the window by the same room when its layout changes.
+constexpr int RightColumnWidth = KeyItemGridView::MainWindowExtraWidth;
+
 } // namespace
 
 MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* parent)
@@ -161,7 +164,7 @@ void MainWindow::buildWindow()
     m_rightColumn = new QWidget(frame);
     m_rightColumn->setObjectName(QStringLiteral("RightColumn"));
     m_rightColumn->setAttribute(Qt::WA_StyledBackground);
-    // The frame's border belongs to the column's 400 pixels.
+    // The frame's border belongs to the column's width.
     m_rightColumn->setFixedWidth(RightColumnWidth - 2 * FrameBorder);
     content->addWidget(m_rightColumn);
     frameLayout->addLayout(content, 1);
@@ -351,8 +354,8 @@ void MainWindow::tellUser(const QString& subject, const QString& text)
     UserQuestion message;
     message.subject = subject;
     message.text = text;
-    message.rightText = tr("OK");
-    message.defaultButton = Dialog::RightButton;
+    message.buttons[UserQuestion::RightSlot] = UserQuestion::Ok;
+    message.defaultButton = UserQuestion::Ok;
     UserQuestions::ask(message);
 }
 
@@ -491,9 +494,9 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
                        .arg(m_importFileName);
     if (dropped > 0)
         confirm.text += QLatin1Char('\n') + tr("%n key(s) do not fit this layout and will be lost.", nullptr, dropped);
-    confirm.midText = tr("Cancel");
-    confirm.rightText = tr("Import");
-    if (UserQuestions::ask(confirm).buttonText != tr("Import")) {
+    confirm.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
+    confirm.buttons[UserQuestion::RightSlot] = UserQuestion::Import;
+    if (UserQuestions::ask(confirm).button != UserQuestion::Import) {
         qDeleteAll(items);
         LOG_MSG(QStringLiteral("layout import cancelled"));
         return;

@@ -32,8 +32,6 @@ class MainWindow : public QWidget
 {
     Q_OBJECT
 public:
-    static constexpr int RightColumnWidth = 400;
-
     MainWindow(QSettings* settings, bool runInBackground, QWidget* parent = nullptr);
     ~MainWindow() override;
 

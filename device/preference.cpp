@@ -59,11 +59,11 @@ bool onFwUpdateClicked()
     question.text = QObject::tr("Firmware version") + QLatin1Char(' ') + packaged +
                     QObject::tr(" is now available - current version ") + current +
                     QObject::tr(" Would you like to update now?");
-    question.midText = QObject::tr("No");
-    question.rightText = QObject::tr("Yes");
-    question.iconKind = 1;
-    question.defaultButton = 2;
-    if (UserQuestions::ask(question).buttonText != question.rightText)
+    question.buttons[UserQuestion::MidSlot] = UserQuestion::No;
+    question.buttons[UserQuestion::RightSlot] = UserQuestion::Yes;
+    question.icon = UserQuestion::LogoIcon;
+    question.defaultButton = UserQuestion::Yes;
+    if (UserQuestions::ask(question).button != UserQuestion::Yes)
         return false;
     FirmwareCatalog::Entry entry;
     if (!lookUpPackagedVersion(firmwareId, entry))

@@ -137,7 +137,7 @@ void FavoriteKeyItemModel::appendKeyItemFromImportedFile(const QVariantMap& keyI
         UserQuestion full;
         full.subject = tr("You have reached the limit of \"My Favorite\".");
         full.text = tr("Import %1 fails.").arg(source);
-        full.midText = tr("Cancel");
+        full.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
         UserQuestions::ask(full);
         return;
     }
@@ -148,9 +148,9 @@ void FavoriteKeyItemModel::appendKeyItemFromImportedFile(const QVariantMap& keyI
                        "you want to proceed?")
                         .arg(current)
                         .arg(current + keyCnt - MaxItems);
-        over.midText = tr("Cancel");
-        over.rightText = tr("Continue");
-        if (UserQuestions::ask(over).buttonText != tr("Continue"))
+        over.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
+        over.buttons[UserQuestion::RightSlot] = UserQuestion::Continue;
+        if (UserQuestions::ask(over).button != UserQuestion::Continue)
             return;
     }
     // The first keys of the file are kept; the count is trusted no further

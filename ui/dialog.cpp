@@ -8,18 +8,21 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMutex>
 #include <QPushButton>
 #include <QQueue>
 #include <QVBoxLayout>
 #include <QVariant>
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
 struct QueuedAnswer
 {
-    QString buttonText;
+    UserQuestion::Button button;
     bool checked;
 };
 
@@ -54,6 +57,22 @@ QString iconResource(int iconKind)
 }
 
 constexpr int IconSize = 48;
+
+constexpr UserQuestion::Button QuestionButtons[] = {
+    UserQuestion::Ok,     UserQuestion::Cancel,   UserQuestion::Yes,   UserQuestion::No,
+    UserQuestion::Delete, UserQuestion::Continue, UserQuestion::Reset, UserQuestion::Import,
+};
+
+UserQuestion::Button meaningOfText(const QString& text)
+{
+    if (text.isEmpty())
+        return UserQuestion::NoButton;
+    for (UserQuestion::Button button : QuestionButtons) {
+        if (text == UserQuestion::buttonText(button))
+            return button;
+    }
+    return UserQuestion::NoButton;
+}
 
 } // namespace
 
@@ -155,6 +174,7 @@ void Dialog::setupDialog(const QString& subject, const QString& text, const QStr
 
     const QString buttonTexts[3] = {leftText, midText, rightText};
     for (int i = 0; i < 3; ++i) {
+        m_meanings[i] = meaningOfText(buttonTexts[i]);
         m_buttons[i]->setText(buttonTexts[i]);
         m_buttons[i]->setVisible(!buttonTexts[i].isEmpty());
         const bool isDefault = i == defaultButton;
@@ -177,7 +197,21 @@ void Dialog::setupDialog(const QString& subject, const QString& text, const QStr
     m_icon->setVisible(!pixmap.isNull());
 
     m_answer.clear();
+    m_answerButton = UserQuestion::NoButton;
     adjustSize();
+}
+
+void Dialog::setupQuestion(const UserQuestion& question)
+{
+    setTitle(question.title);
+    QString texts[UserQuestion::SlotCount];
+    for (int slot = 0; slot < UserQuestion::SlotCount; ++slot)
+        texts[slot] = UserQuestion::buttonText(question.buttons[slot]);
+    setupDialog(question.subject, question.text, texts[LeftButton], texts[MidButton], texts[RightButton],
+                question.checkBoxText, question.icon, question.slotOf(question.defaultButton));
+    // Two buttons may share a translation; the question knows which is which.
+    for (int slot = 0; slot < UserQuestion::SlotCount; ++slot)
+        m_meanings[slot] = question.buttons[slot];
 }
 
 void Dialog::setTitle(const QString& title)
@@ -190,6 +224,11 @@ QString Dialog::answer() const
     return m_answer;
 }
 
+UserQuestion::Button Dialog::answerButton() const
+{
+    return m_answerButton;
+}
+
 bool Dialog::isChecked() const
 {
     return m_checked;
@@ -199,7 +238,10 @@ int Dialog::exec()
 {
     QueuedAnswer queued;
     if (takeQueuedAnswer(&queued)) {
-        m_answer = queued.buttonText;
+        m_answerButton = queued.button;
+        const int slot =
+            int(std::find(std::begin(m_meanings), std::end(m_meanings), queued.button) - std::begin(m_meanings));
+        m_answer = slot < 3 ? m_buttons[slot]->text() : UserQuestion::buttonText(queued.button);
         m_checked = queued.checked;
         LOG_MSG(QStringLiteral("answered without showing: \"%1\"").arg(m_answer));
         return QDialog::Accepted;
@@ -207,20 +249,18 @@ int Dialog::exec()
     return QDialog::exec();
 }
 
-void Dialog::setNextAnswer(const QString& buttonText, bool checked)
+void Dialog::setNextAnswer(UserQuestion::Button button, bool checked)
 {
     QMutexLocker locker(&answersMutex);
-    queuedAnswers().enqueue({buttonText, checked});
+    queuedAnswers().enqueue({button, checked});
 }
 
 UserAnswer Dialog::ask(const UserQuestion& question)
 {
     Dialog dialog(qobject_cast<QWidget*>(ObjectRegistry::find(ComponentId::MainWindow)));
-    dialog.setTitle(question.title);
-    dialog.setupDialog(question.subject, question.text, question.leftText, question.midText, question.rightText,
-                       question.checkBoxText, question.iconKind, question.defaultButton);
+    dialog.setupQuestion(question);
     dialog.exec();
-    return {dialog.answer(), dialog.isChecked()};
+    return {dialog.answerButton(), dialog.isChecked()};
 }
 
 void Dialog::clearNextAnswers()
@@ -249,25 +289,40 @@ ClickLabel* Dialog::closeButton() const
     return m_titleBar->button(TitleBar::CloseButton);
 }
 
-void Dialog::answerWith(QPushButton* button)
+void Dialog::answerWith(int slot)
 {
-    m_answer = button->text();
+    m_answer = m_buttons[slot]->text();
+    m_answerButton = m_meanings[slot];
     close();
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel)) {
+        for (int slot = 0; slot < 3; ++slot) {
+            if (m_meanings[slot] == UserQuestion::Cancel && m_buttons[slot]->isVisibleTo(this)) {
+                event->accept();
+                answerWith(slot);
+                return;
+            }
+        }
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void Dialog::onPB_Clicked_Left()
 {
-    answerWith(m_buttons[LeftButton]);
+    answerWith(LeftButton);
 }
 
 void Dialog::onPB_Clicked_Mid()
 {
-    answerWith(m_buttons[MidButton]);
+    answerWith(MidButton);
 }
 
 void Dialog::onPB_Clicked_Right()
 {
-    answerWith(m_buttons[RightButton]);
+    answerWith(RightButton);
 }
 
 void Dialog::onCheckBoxStateChanged(int state)

@@ -2,17 +2,13 @@
 
 #include "buttonlayoutconfig.h"
 #include "dragpayload.h"
-#include "ka_folder.h"
-#include "keyactionabstr.h"
 #include "keyfacerenderer.h"
 #include "keygridcontextmenu.h"
+#include "keygridcontroller.h"
 #include "keygridgeometry.h"
 #include "keyitemmodel.h"
 #include "logging.h"
 #include "objectregistry.h"
-#include "settings.h"
-#include "settingskeys.h"
-#include "userquestion.h"
 #include "widgetlook.h"
 
 #include <QCursor>
@@ -38,11 +34,6 @@ constexpr char StateNone[] = "false";
 // sheet's border around the key tells the two apart.
 constexpr QRgb SelectionFrameColor = 0xffdfe5ee;
 
-KA_Folder* folderOf(const KeyItem* item)
-{
-    return item && item->isFolder() ? qobject_cast<KA_Folder*>(item->action[0]) : nullptr;
-}
-
 } // namespace
 
 KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
@@ -66,6 +57,8 @@ KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
 
     m_menu = new KeyGridContextMenu(this);
     connectMenu();
+    m_controller = new KeyGridController(this);
+    connectController();
 
     if (ButtonLayoutConfig* config = layouts()) {
         if (ButtonLayoutConfig::isValidLayout(config->currentLayout()))
@@ -74,9 +67,16 @@ KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
     refreshAllKeys();
 }
 
-KeyItemGridView::~KeyItemGridView()
+KeyItemGridView::~KeyItemGridView() = default;
+
+void KeyItemGridView::connectController()
 {
-    delete m_clipboard;
+    connect(m_controller, &KeyGridController::keySelected, this, &KeyItemGridView::selectAndAnnounce);
+    connect(m_controller, &KeyGridController::keyChanged, this, &KeyItemGridView::announceIfSelected);
+    connect(m_controller, &KeyGridController::closeFunctionDescription, this,
+            &KeyItemGridView::closeFunctionDescription);
+    // A selection on the page left behind means nothing on the new one.
+    connect(m_controller, &KeyGridController::pageLeaving, this, [this] { cancelSelectedKeyButton(false); });
 }
 
 void KeyItemGridView::connectMenu()
@@ -106,7 +106,7 @@ void KeyItemGridView::connectMenu()
 
 void KeyItemGridView::setFavoriteInserter(std::function<bool(const KeyItem*)> inserter)
 {
-    m_favoriteInserter = std::move(inserter);
+    m_controller->setFavoriteInserter(std::move(inserter));
 }
 
 int KeyItemGridView::selectedKeyIdx() const
@@ -141,7 +141,7 @@ QLabel* KeyItemGridView::keyButton(int idx) const
 
 const KeyItem* KeyItemGridView::clipboardItem() const
 {
-    return m_clipboard;
+    return m_controller->clipboardItem();
 }
 
 KeyGridContextMenu* KeyItemGridView::contextMenu() const
@@ -162,23 +162,6 @@ KeyItemModel* KeyItemGridView::model() const
 ButtonLayoutConfig* KeyItemGridView::layouts() const
 {
     return COMPONENT(ButtonLayoutConfig, ComponentId::ButtonLayoutConfig);
-}
-
-int KeyItemGridView::layoutForNewItems(const KeyItemModel* model) const
-{
-    return ButtonLayoutConfig::currentLayoutOf(model->currentLayout());
-}
-
-bool KeyItemGridView::isLinkType(int actionType)
-{
-    return actionType == KAT_LINK_BUTTON || actionType == KAT_NUM;
-}
-
-bool KeyItemGridView::isKeyOnGrid(int idx) const
-{
-    if (idx >= m_buttons.size())
-        LOG_MSG(QStringLiteral("key idx >= current layout max key!"));
-    return idx >= 0 && idx < m_buttons.size();
 }
 
 int KeyItemGridView::keyIdxAt(const QPoint& pos) const
@@ -210,6 +193,7 @@ void KeyItemGridView::deleteKeyButtons()
     m_selectedIdx = m_hoveredIdx = m_dragHoverIdx = m_dragSourceIdx = -1;
     qDeleteAll(m_buttons);
     m_buttons.clear();
+    m_controller->setKeyCount(0);
 }
 
 void KeyItemGridView::createKeyButtons(int layout)
@@ -228,6 +212,7 @@ void KeyItemGridView::createKeyButtons(int layout)
         m_buttons.append(button);
         setKeyState(m_buttons.size() - 1, StateNone);
     }
+    m_controller->setKeyCount(m_buttons.size());
 }
 
 void KeyItemGridView::resizeMainWindow()
@@ -470,11 +455,8 @@ void KeyItemGridView::mouseMoveEvent(QMouseEvent* event)
     if ((event->pos() - m_pressPos).manhattanLength() < DragStartDistance)
         return;
     m_pressed = false;
-    KeyItemModel* keyModel = model();
     const int idx = keyIdxAt(m_pressPos);
-    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
-    // The back key belongs to its place on the folder page.
-    if (item && item->actionType != KAT_INVALID && !isLinkType(item->actionType))
+    if (m_controller->canDrag(idx))
         startDrag(idx, m_pressPos);
 }
 
@@ -489,23 +471,13 @@ void KeyItemGridView::controller_mousePress(const QPoint& pos, bool rightButton)
     }
     KeyItemModel* keyModel = model();
     KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
-    if (item && (item->isFolder() || isLinkType(item->actionType))) {
+    if (KeyGridController::opensPage(item)) {
         if (!rightButton)
-            openPageOf(item);
+            m_controller->openPageOf(item);
         return;
     }
     cancelPreviousAndThenSelectKeyButton(idx);
     setFocus();
-}
-
-void KeyItemGridView::openPageOf(KeyItem* item)
-{
-    KeyActionAbstr* action = item->currentAction();
-    if (!logMsgWhenRetFail(action != nullptr, QStringLiteral("key has no action!!")))
-        return;
-    // A selection on the page left behind means nothing on the new one.
-    cancelSelectedKeyButton(false);
-    action->doAction(0);
 }
 
 void KeyItemGridView::keyPressEvent(QKeyEvent* event)
@@ -646,221 +618,55 @@ void KeyItemGridView::dropEvent(QDropEvent* event)
 void KeyItemGridView::onTimerTimeout()
 {
     m_dragHoverTimer->stop();
-    KeyItemModel* keyModel = model();
-    if (!keyModel)
-        return;
     const int idx = keyIdxAt(m_dragPos);
-    keyModel->beginUpdate();
-    bool changed = false;
-    const KeyItem* item = keyModel->keyItemAt(idx);
-    if (idx >= 0 && idx != m_dragSourceIdx && idx == m_dragHoverIdx && item)
-        changed = actOnDragHoverKey(keyModel, idx);
-    keyModel->endUpdate(changed);
-}
-
-bool KeyItemGridView::actOnDragHoverKey(KeyItemModel* keyModel, int idx)
-{
-    bool changed = false;
-    KeyItem* item = keyModel->keyItemAt(idx);
-    if (keyModel->isRootList()) {
-        if (m_dragIsFolder)
-            return false;
-        if (!item->isFolder())
-            changed = keyModel->keyItemBecomeFolder(idx);
-        item = keyModel->keyItemAt(idx);
-        if (!item || !item->isFolder())
-            return changed;
-    } else if (!isLinkType(item->actionType)) {
-        return false;
+    // Only the key the drag rests on reacts, and never the dragged key itself.
+    const bool resting = idx >= 0 && idx != m_dragSourceIdx && idx == m_dragHoverIdx;
+    if (m_controller->openOnDragHover(resting ? idx : -1, m_dragIsFolder)) {
+        m_dragHoverIdx = -1;
+        m_dragSourceIdx = -1;
     }
-    openPageOf(item);
-    m_dragHoverIdx = -1;
-    m_dragSourceIdx = -1;
-    return changed;
 }
 
-// ---- drops ----
+// ---- edits: the controller's ----
 
 void KeyItemGridView::controller_dropKeyItemFromActionList(int actionType, int idx)
 {
-    LOG_MSG(QStringLiteral("actionType: %1, buttonIdx: %2").arg(actionType).arg(idx));
-    KeyItemModel* keyModel = model();
-    if (!keyModel || !isKeyOnGrid(idx))
-        return;
-    if (actionType < KAT_FOLDER || actionType > KAT_PASTE_STRING) {
-        LOG_MSG(QStringLiteral("illegal action!"));
-        return;
-    }
-    keyModel->beginUpdate();
-    auto* item = new KeyItem(KeyActionType(actionType), idx, layoutForNewItems(keyModel));
-    const KeyItem* occupant = keyModel->keyItemAt(idx);
-    const bool folder = actionType == KAT_FOLDER;
-    bool placed = false;
-    if (folder && !keyModel->isRootList())
-        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
-    else if (!occupant)
-        placed = keyModel->replaceKeyItem(item, idx);
-    else if (folder && occupant->isFolder())
-        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
-    if (!placed)
-        delete item;
-    keyModel->endUpdate(placed);
-    selectAndAnnounce(idx);
+    m_controller->controller_dropKeyItemFromActionList(actionType, idx);
 }
 
 void KeyItemGridView::controller_dropKeyItemFromKeyItemGridView(KeyItem* item, int idx)
 {
-    KeyItemModel* keyModel = model();
-    if (!keyModel || !item || !isKeyOnGrid(idx))
-        return;
-    keyModel->beginUpdate();
-    // The back key stays in its place on its folder page.
-    if (item->actionType == KAT_INVALID || isLinkType(item->actionType)) {
-        LOG_MSG(QStringLiteral("illegal action!"));
-        keyModel->endUpdate(false);
-        return;
-    }
-    bool moved = false;
-    if (!keyModel->keyItemAt(idx))
-        moved = keyModel->replaceKeyItem(item, idx);
-    keyModel->endUpdate(moved);
-    selectAndAnnounce(idx);
+    m_controller->controller_dropKeyItemFromKeyItemGridView(item, idx);
 }
 
 void KeyItemGridView::controller_dropKeyItemFromFavoriteGridView(const KeyItem* item, int idx)
 {
-    KeyItemModel* keyModel = model();
-    if (!keyModel || !item || !isKeyOnGrid(idx))
-        return;
-    if (item->actionType == KAT_INVALID || isLinkType(item->actionType)) {
-        LOG_MSG(QStringLiteral("illegal action!"));
-        return;
-    }
-    if (item->isFolder() && !keyModel->isRootList()) {
-        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
-        return;
-    }
-    if (item->isFolder() && !confirmFavoriteLayout(item, keyModel))
-        return;
-    auto* copy = new KeyItem(item->actionType, -1, layoutForNewItems(keyModel));
-    *copy = *item;
-    copy->keyIdx = -1;
-    copy->parent = nullptr;
-    controller_dropKeyItemFromKeyItemGridView(copy, idx);
-    // Refused: no page took it.
-    if (!copy->ownerList)
-        delete copy;
-}
-
-bool KeyItemGridView::confirmFavoriteLayout(const KeyItem* favorite, const KeyItemModel* keyModel)
-{
-    if (favorite->layout <= layoutForNewItems(keyModel))
-        return true;
-    UserQuestion question;
-    question.subject = tr("The limit of folder is different.");
-    question.text = tr("If continues, some items may be lost. Are you sure you want to proceed?");
-    question.midText = tr("Cancel");
-    question.rightText = tr("Continue");
-    return UserQuestions::ask(question).buttonText != tr("Cancel");
-}
-
-// ---- edits ----
-
-void KeyItemGridView::setClipboard(KeyItem* copy)
-{
-    delete m_clipboard;
-    m_clipboard = copy;
+    m_controller->controller_dropKeyItemFromFavoriteGridView(item, idx);
 }
 
 void KeyItemGridView::controller_copyEvent(int idx)
 {
-    KeyItemModel* keyModel = model();
-    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
-    if (!item || isLinkType(item->actionType))
-        return;
-    auto* copy = new KeyItem(*item);
-    // The copy belongs to no page until it is pasted.
-    copy->parent = nullptr;
-    copy->ownerList = nullptr;
-    setClipboard(copy);
+    m_controller->controller_copyEvent(idx);
 }
 
 void KeyItemGridView::controller_pasteEvent(int idx)
 {
-    KeyItemModel* keyModel = model();
-    if (!m_clipboard || !keyModel || !isKeyOnGrid(idx))
-        return;
-    keyModel->beginUpdate();
-    const KeyItem* target = keyModel->keyItemAt(idx);
-    bool changed = false;
-    if (target && (target->isFolder() || isLinkType(target->actionType)))
-        LOG_MSG(QStringLiteral("can't paste onto this key!"));
-    else if (m_clipboard->isFolder() && !keyModel->isRootList())
-        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
-    else
-        changed = keyModel->copyKeyItem(m_clipboard, idx);
-    keyModel->endUpdate(changed);
-    if (changed)
-        announceIfSelected(idx);
+    m_controller->controller_pasteEvent(idx);
 }
 
 void KeyItemGridView::controller_delEvent(int idx, bool ignoreConfirmationBox)
 {
-    KeyItemModel* keyModel = model();
-    const KeyItem* item = keyModel ? keyModel->keyItemAt(idx) : nullptr;
-    if (!item || isLinkType(item->actionType))
-        return;
-    // Asked before the model is locked: the keypad's key presses go on
-    // while the question is open.
-    if (!ignoreConfirmationBox && !handleKB_DelConfirmMsgBox())
-        return;
-    keyModel->beginUpdate();
-    // The keypad may have changed the page meanwhile.
-    const bool stillThere = keyModel->keyItemAt(idx) == item;
-    if (stillThere)
-        emit closeFunctionDescription();
-    const bool deleted = stillThere && keyModel->deleteKeyItem(idx);
-    keyModel->endUpdate(deleted);
-    if (deleted)
-        announceIfSelected(idx);
+    m_controller->controller_delEvent(idx, ignoreConfirmationBox);
 }
 
 bool KeyItemGridView::handleKB_DelConfirmMsgBox()
 {
-    Settings* settings = COMPONENT(Settings, ComponentId::Settings);
-    if (settings && settings->value(SettingsKeys::DeleteItemDontShowAgain, false).toBool())
-        return true;
-    UserQuestion question;
-    question.subject = tr("Are you sure you want to delete this item?");
-    question.text = tr("You can't undo this action.");
-    question.midText = tr("Cancel");
-    question.rightText = tr("Delete");
-    question.checkBoxText = tr("Don't ask me again");
-    const UserAnswer answer = UserQuestions::ask(question);
-    const bool agreed = answer.buttonText != tr("Cancel");
-    if (agreed && answer.checked && settings)
-        settings->setValue(SettingsKeys::DeleteItemDontShowAgain, true);
-    return agreed;
+    return m_controller->handleKB_DelConfirmMsgBox();
 }
 
 void KeyItemGridView::createNewAction(int actionType, int idx)
 {
-    KeyItemModel* keyModel = model();
-    if (!keyModel || !isKeyOnGrid(idx))
-        return;
-    if (actionType < KAT_FOLDER || actionType > KAT_PASTE_STRING) {
-        LOG_MSG(QStringLiteral("illegal action!"));
-        return;
-    }
-    if (actionType == KAT_FOLDER && !keyModel->isRootList()) {
-        LOG_MSG(QStringLiteral("Not allow multi-layer folder!"));
-        return;
-    }
-    keyModel->beginUpdate();
-    const bool created = keyModel->createKeyAction(idx, KeyActionType(actionType));
-    keyModel->endUpdate(created);
-    if (created)
-        selectAndAnnounce(idx);
+    m_controller->createNewAction(actionType, idx);
 }
 
 // ---- context menu ----
@@ -868,19 +674,14 @@ void KeyItemGridView::createNewAction(int actionType, int idx)
 bool KeyItemGridView::updateContextMenuActions(int idx)
 {
     m_menu->setKeyIdx(idx);
-    if (idx < 0 || idx >= m_buttons.size())
-        return false;
-    KeyItemModel* keyModel = model();
-    if (!keyModel)
-        return false;
-    const KeyItem* item = keyModel->keyItemAt(idx);
-    if (item && isLinkType(item->actionType))
+    const KeyGridController::KeyContext context = m_controller->contextOf(idx);
+    if (!context.valid)
         return false;
     KeyGridContextMenu::Situation situation;
-    situation.emptyKey = !item;
-    situation.folderKey = item && item->isFolder();
-    situation.topLevel = keyModel->isRootList();
-    situation.clipboardHoldsItem = m_clipboard != nullptr;
+    situation.emptyKey = context.emptyKey;
+    situation.folderKey = context.folderKey;
+    situation.topLevel = context.topLevel;
+    situation.clipboardHoldsItem = context.clipboardHoldsItem;
     m_menu->showEntriesFor(situation);
     return true;
 }
@@ -900,21 +701,9 @@ void KeyItemGridView::onTreeItemChanged(const KeyItem* item)
 {
     if (!logMsgWhenRetFail(item != nullptr, QStringLiteral("keyItem is nullptr!!")))
         return;
-    KeyItemModel* keyModel = model();
-    if (!keyModel)
+    if (!model())
         return;
-    // A folder shows its own page; any other key the page it lives on.
-    KA_Folder* folder = item->isFolder() ? folderOf(item) : folderOf(item->parent);
-    keyModel->beginUpdate();
-    bool changed = false;
-    if (folder && keyModel->getCurrentLayoutListHead() != &folder->childList) {
-        keyModel->changeListHead(folder, &folder->childList);
-        changed = true;
-    } else if (!folder && !keyModel->isRootList()) {
-        keyModel->changeListToRoot();
-        changed = true;
-    }
-    keyModel->endUpdate(changed);
+    m_controller->followTreeItem(item);
     if (item->isFolder())
         cancelSelectedKeyButton(false);
     else
@@ -924,10 +713,8 @@ void KeyItemGridView::onTreeItemChanged(const KeyItem* item)
 void KeyItemGridView::onContextMenuTrigger_Cut(bool)
 {
     const int idx = menuKeyIdx();
-    if (idx < 0)
-        return;
-    controller_copyEvent(idx);
-    controller_delEvent(idx, true);
+    if (idx >= 0)
+        m_controller->cut(idx);
 }
 
 void KeyItemGridView::onContextMenuTrigger_Copy(bool)
@@ -953,31 +740,12 @@ void KeyItemGridView::onContextMenuTrigger_Del(bool)
 
 void KeyItemGridView::onContextMenuTrigger_Rest(bool)
 {
-    const int idx = menuKeyIdx();
-    KeyItemModel* keyModel = model();
-    if (idx < 0 || !keyModel)
-        return;
-    keyModel->beginUpdate();
-    const KeyItem* item = keyModel->keyItemAt(idx);
-    const bool reset = item && !isLinkType(item->actionType) && keyModel->resetKeyItemToDefault(idx);
-    keyModel->endUpdate(reset);
-    if (reset)
-        announceIfSelected(idx);
+    m_controller->resetKey(menuKeyIdx());
 }
 
 void KeyItemGridView::onContextMenuTrigger_Favorite(bool)
 {
-    const int idx = menuKeyIdx();
-    KeyItemModel* keyModel = model();
-    const KeyItem* item = idx >= 0 && keyModel ? keyModel->keyItemAt(idx) : nullptr;
-    if (!item || isLinkType(item->actionType))
-        return;
-    if (!m_favoriteInserter) {
-        LOG_MSG(QStringLiteral("ERROR: nothing keeps favorites!!"));
-        return;
-    }
-    if (!m_favoriteInserter(item))
-        LOG_MSG(QStringLiteral("favorite not kept"));
+    m_controller->saveAsFavorite(menuKeyIdx());
 }
 
 void KeyItemGridView::onContextMenuTrigger_CreateFolder(bool)
@@ -1012,14 +780,5 @@ void KeyItemGridView::onContextMenuTrigger_CreateTextString(bool)
 
 void KeyItemGridView::onContextMenuTrigger_MoveToFolder(bool)
 {
-    const int idx = menuKeyIdx();
-    KeyItemModel* keyModel = model();
-    if (idx < 0 || !keyModel)
-        return;
-    keyModel->beginUpdate();
-    const KeyItem* item = keyModel->keyItemAt(idx);
-    const bool moved = item && !item->isFolder() && !isLinkType(item->actionType) && keyModel->keyItemBecomeFolder(idx);
-    keyModel->endUpdate(moved);
-    if (moved)
-        announceIfSelected(idx);
+    m_controller->moveToFolder(menuKeyIdx());
 }

@@ -10,16 +10,16 @@
 
 class ButtonLayoutConfig;
 class KeyGridContextMenu;
+class KeyGridController;
 class KeyItemModel;
 class QLabel;
 class QTimer;
-class Settings;
 
 // The editor's picture of the keypad: one QLabel per key of the current
-// layout showing the key's face. Selecting, hovering, opening folders,
-// dropping palette entries, keys and favourites, and the context menu's edits
-// all go through KeyItemModel inside its update bracket; the view keeps no
-// key data except the clipboard copy.
+// layout showing the key's face. The view keeps selection, hover, mouse,
+// drag, the context menu and the shortcuts; what a drop or an edit does to a
+// key is KeyGridController's, which changes KeyItemModel inside its update
+// bracket. The view keeps no key data.
 //
 // The model may notify from its key action thread: connect its updateContent
 // queued to onUpdateContent. A null item there means the whole page changed.
@@ -29,7 +29,7 @@ class KeyItemGridView : public QWidget
 public:
     static constexpr int DragStartDistance = 5;
     static constexpr int DragHoverDelayMs = 800;
-    // Room the main window needs beside the key panel.
+    // Room the main window needs beside the key panel: its right column.
     static constexpr int MainWindowExtraWidth = 400;
     static constexpr int SelectionFrameWidth = 2;
 
@@ -53,7 +53,7 @@ public:
     int keyIdxAt(const QPoint& pos) const;
 
     // The operations behind the mouse, the drops and the menu; callable
-    // directly without events.
+    // directly without events. The edits are the controller's.
     void controller_mousePress(const QPoint& pos, bool rightButton);
     void controller_copyEvent(int idx);
     void controller_pasteEvent(int idx);
@@ -116,10 +116,8 @@ protected:
 private:
     KeyItemModel* model() const;
     ButtonLayoutConfig* layouts() const;
-    int layoutForNewItems(const KeyItemModel* model) const;
-    static bool isLinkType(int actionType);
-    bool isKeyOnGrid(int idx) const;
     void connectMenu();
+    void connectController();
     void createKeyButtons(int layout);
     void deleteKeyButtons();
     void resizeMainWindow();
@@ -129,14 +127,10 @@ private:
     const char* restingState(int idx) const;
     void selectAndAnnounce(int idx);
     void announceIfSelected(int idx);
-    void openPageOf(KeyItem* item);
     void showContextMenu(const QPoint& pos);
     bool triggerShortcut(int qtKey);
     void startDrag(int idx, const QPoint& pressPos);
     void clearDragState();
-    bool actOnDragHoverKey(KeyItemModel* model, int idx);
-    bool confirmFavoriteLayout(const KeyItem* favorite, const KeyItemModel* model);
-    void setClipboard(KeyItem* copy);
     int menuKeyIdx() const;
 
     int m_layout = -1;
@@ -151,8 +145,7 @@ private:
     QPoint m_pressPos;
     bool m_pressed = false;
     bool m_layoutChanging = false;
-    KeyItem* m_clipboard = nullptr;
     QTimer* m_dragHoverTimer = nullptr;
     KeyGridContextMenu* m_menu = nullptr;
-    std::function<bool(const KeyItem*)> m_favoriteInserter;
+    KeyGridController* m_controller = nullptr;
 };

@@ -186,11 +186,11 @@ private slots:
         QVERIFY(model->deleteKeyItem(9));
         model->endUpdate(true);
 
-        Dialog::setNextAnswer(QStringLiteral("Cancel"));
+        Dialog::setNextAnswer(UserQuestion::Cancel);
         window.openExtensionFile(path);
         QCOMPARE(model->keyItemAt(9), nullptr);
 
-        Dialog::setNextAnswer(QStringLiteral("Import"));
+        Dialog::setNextAnswer(UserQuestion::Import);
         window.openExtensionFile(path);
         QVERIFY(model->keyItemAt(9));
         QCOMPARE(static_cast<KA_PastString*>(model->keyItemAt(9)->action[0])->strText, QStringLiteral("exported"));
@@ -206,7 +206,7 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("this is not a layout");
         file.close();
-        Dialog::setNextAnswer(QStringLiteral("OK"));
+        Dialog::setNextAnswer(UserQuestion::Ok);
         window.openExtensionFile(path);
         QFile log(window.log()->filePath());
         QVERIFY(log.open(QIODevice::ReadOnly));

@@ -78,15 +78,15 @@ private slots:
         UserQuestion asked;
         UserQuestions::setHandler([&](const UserQuestion& question) {
             asked = question;
-            return UserAnswer{question.rightText, false};
+            return UserAnswer{question.buttons[UserQuestion::RightSlot], false};
         });
         transport->clearCalls();
         QVERIFY(Preference::onFwUpdateClicked());
         QCOMPARE(asked.title, QStringLiteral("Do you want to update firmware?"));
         QCOMPARE(asked.text, QStringLiteral("Firmware version 1.0.170124 is now available - current version 0.170001 "
                                             "Would you like to update now?"));
-        QCOMPARE(asked.midText, QStringLiteral("No"));
-        QCOMPARE(asked.rightText, QStringLiteral("Yes"));
+        QCOMPARE(asked.buttons[UserQuestion::MidSlot], UserQuestion::No);
+        QCOMPARE(asked.buttons[UserQuestion::RightSlot], UserQuestion::Yes);
 
         const auto writes = transport->calls(RecordingTransport::Write);
         QVERIFY(!writes.isEmpty());
@@ -100,7 +100,9 @@ private slots:
 
     void shouldSendNothingWhenTheUserDeclines()
     {
-        UserQuestions::setHandler([](const UserQuestion& question) { return UserAnswer{question.midText, false}; });
+        UserQuestions::setHandler([](const UserQuestion& question) {
+            return UserAnswer{question.buttons[UserQuestion::MidSlot], false};
+        });
         transport->clearCalls();
         QVERIFY(!Preference::onFwUpdateClicked());
         QVERIFY(transport->calls(RecordingTransport::Write).isEmpty());
@@ -113,7 +115,7 @@ private slots:
         bool asked = false;
         UserQuestions::setHandler([&](const UserQuestion&) {
             asked = true;
-            return UserAnswer{QStringLiteral("Yes"), false};
+            return UserAnswer{UserQuestion::Yes, false};
         });
         QVERIFY(!Preference::onFwUpdateClicked());
         QVERIFY(!asked);

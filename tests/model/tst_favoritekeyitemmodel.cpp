@@ -62,30 +62,31 @@ private slots:
 
     void shouldAskBeforeLosingItemsOverTheLimit_data()
     {
-        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("answer");
         QTest::addColumn<int>("kept");
-        QTest::newRow("continued") << "Continue" << 60;
-        QTest::newRow("closed by the title bar") << "" << 58;
+        QTest::newRow("continued") << int(UserQuestion::Continue) << 60;
+        QTest::newRow("cancelled") << int(UserQuestion::Cancel) << 58;
+        QTest::newRow("closed by the title bar") << int(UserQuestion::NoButton) << 58;
     }
 
     void shouldAskBeforeLosingItemsOverTheLimit()
     {
-        QFETCH(QString, answer);
+        QFETCH(int, answer);
         QFETCH(int, kept);
         FavoriteKeyItemModel model;
         model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
         QCOMPARE(model.count(), 58);
         QVERIFY(m_questions.isEmpty());
 
-        m_answer = answer;
+        m_answer = UserQuestion::Button(answer);
         model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
         QCOMPARE(m_questions.size(), 1);
         QCOMPARE(m_questions.first().subject, QStringLiteral("The limit of \"My Favorite\" is 60 items."));
         QCOMPARE(m_questions.first().text,
                  QStringLiteral("You already have 58 item in \"My Favorite.\" If continues, 3 "
                                 "item will be lost. Are you sure you want to proceed?"));
-        QCOMPARE(m_questions.first().midText, QStringLiteral("Cancel"));
-        QCOMPARE(m_questions.first().rightText, QStringLiteral("Continue"));
+        QCOMPARE(m_questions.first().buttons[UserQuestion::MidSlot], UserQuestion::Cancel);
+        QCOMPARE(m_questions.first().buttons[UserQuestion::RightSlot], UserQuestion::Continue);
         QCOMPARE(model.count(), kept);
         QCOMPARE(textOf(model.keyItems().last()), kept == 60 ? QStringLiteral("new1") : QStringLiteral("old57"));
     }
@@ -94,7 +95,7 @@ private slots:
     {
         FavoriteKeyItemModel model;
         model.appendKeyItemFromImportedFile(fileOf(60, QStringLiteral("old")));
-        m_answer = QStringLiteral("Continue");
+        m_answer = UserQuestion::Continue;
         model.appendKeyItemFromImportedFile(fileOf(1, QStringLiteral("new")));
         QCOMPARE(m_questions.size(), 1);
         QCOMPARE(m_questions.first().subject, QStringLiteral("You have reached the limit of \"My Favorite\"."));
@@ -147,7 +148,7 @@ private slots:
 private:
     std::unique_ptr<Settings> m_settings;
     QList<UserQuestion> m_questions;
-    QString m_answer;
+    UserQuestion::Button m_answer = UserQuestion::NoButton;
 };
 
 KEYSTAGE_TEST_MAIN(FavoriteKeyItemModelTest)

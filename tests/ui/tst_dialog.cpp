@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QTranslator>
 
 namespace {
 
@@ -25,6 +26,28 @@ void setUpDeleteQuestion(Dialog* dialog)
                         QStringLiteral("Delete"), QStringLiteral("Don't ask me again"), Dialog::IconWarning,
                         Dialog::MidButton);
 }
+
+UserQuestion question(UserQuestion::Button mid, UserQuestion::Button right)
+{
+    UserQuestion asked;
+    asked.subject = QStringLiteral("subject");
+    asked.buttons[UserQuestion::MidSlot] = mid;
+    asked.buttons[UserQuestion::RightSlot] = right;
+    asked.defaultButton = right;
+    return asked;
+}
+
+// Every text in another language; "Cancel" and "Reset" read alike.
+class SameWordTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char*, const char* sourceText, const char*, int) const override
+    {
+        const QString text = QString::fromUtf8(sourceText);
+        return text == "Cancel" || text == "Reset" ? QStringLiteral("Annuler") : QStringLiteral("~") + text;
+    }
+};
 
 // Runs exec() while the action acts on the shown dialog.
 template <class Action>
@@ -120,6 +143,7 @@ private slots:
             QTest::mouseClick(dialog.buttonAt(2), Qt::LeftButton);
         });
         QCOMPARE(dialog.answer(), QStringLiteral("Delete"));
+        QCOMPARE(dialog.answerButton(), UserQuestion::Delete);
         QVERIFY(dialog.isChecked());
         QVERIFY(!dialog.isVisible());
     }
@@ -140,24 +164,80 @@ private slots:
         QVERIFY(!dialog.checkBox()->isChecked());
         execWhileShown(&dialog, [&dialog] { QTest::mouseClick(dialog.closeButton(), Qt::LeftButton); });
         QCOMPARE(dialog.answer(), QString());
+        QCOMPARE(dialog.answerButton(), UserQuestion::NoButton);
         QVERIFY(!dialog.isChecked());
+    }
+
+    // Whatever has the focus, Esc is Cancel where a Cancel button shows and
+    // an unanswered close elsewhere.
+    void shouldAnswerEscAsCancel_data()
+    {
+        QTest::addColumn<int>("mid");
+        QTest::addColumn<int>("right");
+        QTest::addColumn<int>("focused");
+        QTest::addColumn<int>("answer");
+        const int cancel = UserQuestion::Cancel;
+        QTest::newRow("delete, Delete focused") << cancel << int(UserQuestion::Delete) << 2 << cancel;
+        QTest::newRow("delete, check box focused") << cancel << int(UserQuestion::Delete) << -1 << cancel;
+        QTest::newRow("continue") << cancel << int(UserQuestion::Continue) << 2 << cancel;
+        QTest::newRow("no and yes") << int(UserQuestion::No) << int(UserQuestion::Yes) << 2
+                                    << int(UserQuestion::NoButton);
+        QTest::newRow("ok only") << int(UserQuestion::NoButton) << int(UserQuestion::Ok) << 2
+                                 << int(UserQuestion::NoButton);
+    }
+
+    void shouldAnswerEscAsCancel()
+    {
+        QFETCH(int, mid);
+        QFETCH(int, right);
+        QFETCH(int, focused);
+        QFETCH(int, answer);
+        UserQuestion asked = question(UserQuestion::Button(mid), UserQuestion::Button(right));
+        asked.checkBoxText = QStringLiteral("Don't ask me again");
+        Dialog dialog;
+        dialog.setupQuestion(asked);
+        execWhileShown(&dialog, [&dialog, focused] {
+            QWidget* target = focused >= 0 ? static_cast<QWidget*>(dialog.buttonAt(focused)) : dialog.checkBox();
+            target->setFocus();
+            QTest::keyClick(target, Qt::Key_Escape);
+        });
+        QCOMPARE(int(dialog.answerButton()), answer);
+        QCOMPARE(dialog.answer(), UserQuestion::buttonText(UserQuestion::Button(answer)));
+        QVERIFY(!dialog.isVisible());
+    }
+
+    // A question's buttons mean what the question says, even where a
+    // translation gives two of them the same text.
+    void shouldAnswerWhatTheClickedButtonMeans()
+    {
+        SameWordTranslator translator;
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        Dialog dialog;
+        dialog.setupQuestion(question(UserQuestion::Cancel, UserQuestion::Reset));
+        QCOMPARE(visibleButtonTexts(dialog), QStringList({"Annuler", "Annuler"}));
+        QVERIFY(dialog.buttonAt(2)->isDefault());
+        execWhileShown(&dialog, [&dialog] { QTest::mouseClick(dialog.buttonAt(2), Qt::LeftButton); });
+        QCOMPARE(dialog.answerButton(), UserQuestion::Reset);
+        dialog.setupQuestion(question(UserQuestion::Cancel, UserQuestion::Reset));
+        execWhileShown(&dialog, [&dialog] { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        QCOMPARE(dialog.answerButton(), UserQuestion::Cancel);
+        QCoreApplication::removeTranslator(&translator);
     }
 
     void shouldAnswerFromTheSeamWithoutShowing()
     {
-        Dialog::setNextAnswer(QStringLiteral("Delete"), true);
-        Dialog::setNextAnswer(QStringLiteral("Cancel"));
+        Dialog::setNextAnswer(UserQuestion::Delete, true);
+        Dialog::setNextAnswer(UserQuestion::Cancel);
         Dialog first;
         setUpDeleteQuestion(&first);
         first.exec();
         QCOMPARE(first.answer(), QStringLiteral("Delete"));
+        QCOMPARE(first.answerButton(), UserQuestion::Delete);
         QVERIFY(first.isChecked());
         QVERIFY(!first.isVisible());
-        Dialog second;
-        setUpDeleteQuestion(&second);
-        second.exec();
-        QCOMPARE(second.answer(), QStringLiteral("Cancel"));
-        QVERIFY(!second.isChecked());
+        const UserAnswer second = Dialog::ask(question(UserQuestion::Cancel, UserQuestion::Delete));
+        QCOMPARE(second.button, UserQuestion::Cancel);
+        QVERIFY(!second.checked);
     }
 
     void shouldStyleTheTitleBarForActivityAndHover()
