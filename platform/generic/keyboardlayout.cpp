@@ -36,9 +36,10 @@ QString KeyboardLayout::keysymLabel(quint32 keysym)
         if (dead.first == keysym)
             return QString(QChar(dead.second));
     }
-    const char32_t character = xkb_keysym_to_utf32(keysym);
+    // One character to one: a key cap shows "ß", never "SS".
+    const char32_t character = QChar::toUpper(uint(xkb_keysym_to_utf32(keysym)));
     if (character > 0x20 && character != 0x7F)
-        return QString::fromUcs4(&character, 1).toUpper();
+        return QString::fromUcs4(&character, 1);
     char name[64];
     return xkb_keysym_get_name(keysym, name, sizeof name) > 0 ? QString::fromLatin1(name) : QString();
 }

@@ -9,6 +9,7 @@
 #include "testmain.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -73,22 +74,26 @@ private slots:
         QCOMPARE(grabber, button("Stop"));
         // A release whose press came before the recording is not recorded.
         QTest::keyRelease(grabber, Qt::Key_Space);
-        QTest::keyPress(grabber, Qt::Key_Shift);
-        QTest::keyPress(grabber, Qt::Key_A, Qt::ShiftModifier);
-        QKeyEvent repeat(QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, QString(), true);
-        QApplication::sendEvent(grabber, &repeat);
-        QTest::keyRelease(grabber, Qt::Key_A, Qt::ShiftModifier);
-        QTest::keyRelease(grabber, Qt::Key_Shift, Qt::ShiftModifier);
+        // One event each, as a keyboard sends them (QTest would add presses
+        // and releases of the modifiers).
+        send(grabber, QEvent::KeyPress, Qt::Key_Shift, Qt::NoModifier);
+        send(grabber, QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier);
+        send(grabber, QEvent::KeyPress, Qt::Key_A, Qt::ShiftModifier, true);
+        send(grabber, QEvent::KeyRelease, Qt::Key_A, Qt::ShiftModifier);
+        send(grabber, QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier);
         // Esc with a modifier is a key of the macro; alone it ends the recording.
-        QTest::keyClick(grabber, Qt::Key_Escape, Qt::ControlModifier);
+        send(grabber, QEvent::KeyPress, Qt::Key_Control, Qt::NoModifier);
+        send(grabber, QEvent::KeyPress, Qt::Key_Escape, Qt::ControlModifier);
+        send(grabber, QEvent::KeyRelease, Qt::Key_Escape, Qt::ControlModifier);
+        send(grabber, QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
         QTest::keyClick(grabber, Qt::Key_VolumeMute);
         QTest::keyClick(grabber, Qt::Key_Escape);
         QVERIFY(!editor->isRecording());
         QCOMPARE(QWidget::keyboardGrabber(), nullptr);
         const QList<MarcoKeyItem> steps = editor->steps();
-        QCOMPARE(render(steps), QStringLiteral("Shift+ A+ A- Shift- Esc+ Esc- Volume Mute+ Volume Mute-"));
+        QCOMPARE(render(steps), QStringLiteral("Shift+ A+ A- Shift- Ctrl+ Esc+ Esc- Ctrl- Volume Mute+ Volume Mute-"));
         QCOMPARE(steps.at(1).qtKeyCode, int(Qt::Key_A));
-        QCOMPARE(steps.at(6).nativeKeyCode, quint16(0xAD));
+        QCOMPARE(steps.at(8).nativeKeyCode, quint16(0xAD));
         QCOMPARE(changes->last().first().value<QList<MarcoKeyItem>>(), steps);
     }
 
@@ -241,6 +246,13 @@ private slots:
     }
 
 private:
+    static void send(QWidget* receiver, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers,
+                     bool autoRepeat = false)
+    {
+        QKeyEvent event(type, key, modifiers, QString(), autoRepeat);
+        QApplication::sendEvent(receiver, &event);
+    }
+
     QPushButton* button(const QString& text) const
     {
         for (QPushButton* candidate : editor->findChildren<QPushButton*>()) {

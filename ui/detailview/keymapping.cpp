@@ -94,7 +94,15 @@ QString KeyMapping::keyName(int virtualKey, int qtKey)
         if (!label.isEmpty())
             return label;
     }
+    // A Qt key sequence cannot hold a modifier key on its own: its code would
+    // read as the modifier flag.
     switch (virtualKey) {
+    case 0x10:
+        return QCoreApplication::translate("QShortcut", "Shift");
+    case 0x11:
+        return QCoreApplication::translate("QShortcut", "Ctrl");
+    case 0x12:
+        return QCoreApplication::translate("QShortcut", "Alt");
     case 0x5B:
         return tr("Left Super");
     case 0x5C:

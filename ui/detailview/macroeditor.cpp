@@ -46,7 +46,8 @@ MacroEditor::MacroEditor(QWidget* parent)
     m_downButton = addButton(tr("Move down"), &MacroEditor::moveDown);
     m_clearButton = addButton(tr("Clear"), &MacroEditor::clearSteps);
 
-    QPushButton* fix = new QPushButton(tr("Add the missing releases"), m_warning);
+    auto* fix = new QPushButton(tr("Add the missing releases"), m_warning);
+    fix->setAccessibleName(fix->text());
     connect(fix, &QPushButton::clicked, this, &MacroEditor::releaseHeldKeys);
     m_warningText->setWordWrap(true);
     m_warning->setFrameShape(QFrame::StyledPanel);
