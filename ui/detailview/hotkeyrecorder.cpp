@@ -42,7 +42,7 @@ HotkeyRecorder::HotkeyRecorder(QWidget* parent)
     layout->addWidget(m_field);
     layout->addWidget(m_pickButton);
     setFocusProxy(m_field);
-    changeEvent(nullptr);
+    retranslate();
 }
 
 void HotkeyRecorder::setChord(const KeyChord& chord)
@@ -196,13 +196,16 @@ void HotkeyRecorder::showState()
 
 void HotkeyRecorder::changeEvent(QEvent* event)
 {
-    if (!event || event->type() == QEvent::LanguageChange) {
-        const QString pickText = tr("Keys a keyboard may lack");
-        m_pickButton->setToolTip(pickText);
-        m_pickButton->setAccessibleName(pickText);
-        m_field->setToolTip(tr("Click, or press Enter or Space, to record a key combination"));
-        showState();
-    }
-    if (event)
-        QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void HotkeyRecorder::retranslate()
+{
+    const QString pickText = tr("Keys a keyboard may lack");
+    m_pickButton->setToolTip(pickText);
+    m_pickButton->setAccessibleName(pickText);
+    m_field->setToolTip(tr("Click, or press Enter or Space, to record a key combination"));
+    showState();
 }

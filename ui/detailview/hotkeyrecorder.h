@@ -46,6 +46,7 @@ private:
     void stop();
     void chooseKey(int virtualKey);
     void showState();
+    void retranslate();
 
     QPushButton* m_field;
     QToolButton* m_pickButton;
