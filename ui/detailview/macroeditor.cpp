@@ -30,8 +30,10 @@ MacroEditor::MacroEditor(QWidget* parent)
     m_stopButton->installEventFilter(this);
     m_status->setWordWrap(true);
 
+    auto* stepsLabel = new QLabel(tr("&Steps:"), this);
+    stepsLabel->setBuddy(m_view);
     m_view->setModel(m_model);
-    m_view->setAccessibleName(tr("Steps"));
+    m_view->setAccessibleName(tr("Steps:"));
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::ContiguousSelection);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -66,6 +68,7 @@ MacroEditor::MacroEditor(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(recordRow);
+    layout->addWidget(stepsLabel);
     layout->addWidget(m_view, 1);
     layout->addLayout(editRow);
     layout->addWidget(m_warning);
