@@ -7,6 +7,7 @@
 #include <X11/keysym.h>
 #include <climits>
 #include <libevdev/libevdev.h>
+#include <linux/input-event-codes.h>
 
 namespace {
 
@@ -131,6 +132,45 @@ private slots:
         QCOMPARE(unique.size(), codes.size());
         for (const VirtualKeyTable::Entry& entry : VirtualKeyTable::entries())
             QVERIFY(unique.contains(entry.evdevCode));
+    }
+
+    // Every key of the list types through XTest (it has a keysym) and uinput
+    // (an evdev code): media, volume, browser, mail, calculator, F13-F24,
+    // Print, Scroll Lock, Pause, Insert, Menu.
+    void shouldTypeEveryKeyAKeyboardMayLack()
+    {
+        QStringList names;
+        for (const int key : VirtualKeyTable::keysKeyboardsMayLack())
+            names << keysymName(key) + QLatin1Char('/') + evdevName(key);
+        QCOMPARE(names.join(QLatin1Char(' ')),
+                 QStringLiteral("XF86AudioPlay/KEY_PLAYPAUSE XF86AudioNext/KEY_NEXTSONG XF86AudioPrev/KEY_PREVIOUSSONG "
+                                "XF86AudioStop/KEY_STOPCD XF86AudioRaiseVolume/KEY_VOLUMEUP "
+                                "XF86AudioLowerVolume/KEY_VOLUMEDOWN XF86AudioMute/KEY_MUTE XF86Back/KEY_BACK "
+                                "XF86Forward/KEY_FORWARD XF86Refresh/KEY_REFRESH XF86HomePage/KEY_HOMEPAGE "
+                                "XF86Search/KEY_SEARCH XF86Mail/KEY_MAIL XF86Calculator/KEY_CALC "
+                                "F13/KEY_F13 F14/KEY_F14 F15/KEY_F15 F16/KEY_F16 F17/KEY_F17 F18/KEY_F18 F19/KEY_F19 "
+                                "F20/KEY_F20 F21/KEY_F21 F22/KEY_F22 F23/KEY_F23 F24/KEY_F24 "
+                                "Print/KEY_SYSRQ Scroll_Lock/KEY_SCROLLLOCK Pause/KEY_PAUSE Insert/KEY_INSERT "
+                                "Menu/KEY_COMPOSE"));
+    }
+
+    // The reverse look-ups used when recording: by place, and by Qt key for
+    // events without a keysym. Where two virtual keys share one, the first.
+    void shouldFindTheVirtualKeyByPlaceAndByQtKey()
+    {
+        for (const VirtualKeyTable::Entry& entry : VirtualKeyTable::entries()) {
+            const int byPlace = VirtualKeyTable::virtualKeyFromEvdevCode(entry.evdevCode);
+            const int byQtKey = VirtualKeyTable::virtualKeyFromQtKey(entry.qtKey);
+            QVERIFY2(byPlace != 0 && byPlace <= entry.virtualKey, qPrintable(QString::number(entry.virtualKey, 16)));
+            QVERIFY2(byQtKey != 0 && byQtKey <= entry.virtualKey, qPrintable(QString::number(entry.virtualKey, 16)));
+            QCOMPARE(VirtualKeyTable::evdevCode(byPlace), entry.evdevCode);
+        }
+        QCOMPARE(VirtualKeyTable::virtualKeyFromQtKey(Qt::Key_F5), 0x74);
+        QCOMPARE(VirtualKeyTable::virtualKeyFromQtKey(Qt::KeypadModifier | Qt::Key_Asterisk), 0x6A);
+        QCOMPARE(VirtualKeyTable::virtualKeyFromQtKey(Qt::KeypadModifier | Qt::Key_Left), 0x25);
+        QCOMPARE(VirtualKeyTable::virtualKeyFromQtKey(Qt::Key_Asterisk), 0);
+        QCOMPARE(VirtualKeyTable::virtualKeyFromEvdevCode(0), 0);
+        QCOMPARE(VirtualKeyTable::virtualKeyFromEvdevCode(KEY_FN), 0);
     }
 
     void shouldFindTheVirtualKeyOfAKeysym_data()

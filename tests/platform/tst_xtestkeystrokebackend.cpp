@@ -1,6 +1,7 @@
 // Runs on its own Xvfb server without a window manager (see CMakeLists.txt).
 #include "logcapture.h"
 #include "testmain.h"
+#include "virtualkeytable.h"
 #include "xkeyobserver.h"
 #include "xtestkeystrokebackend.h"
 
@@ -79,6 +80,25 @@ private slots:
         for (const XKeyObserver::Event& event : events)
             QCOMPARE(event.keycode, borrowed);
         QCOMPARE(m_observer->keysymOf(borrowed), quint32(XK_F24));
+    }
+
+    // Keys many keyboards lack, which the editor offers from a list: each
+    // reaches the server as its keysym, bound to a spare keycode where the
+    // layout has none.
+    void shouldTypeEveryKeyAKeyboardMayLack()
+    {
+        XTestKeystrokeBackend backend;
+        for (const int key : VirtualKeyTable::keysKeyboardsMayLack()) {
+            m_observer->clear();
+            QVERIFY(backend.keyDown(key));
+            QVERIFY(backend.keyUp(key));
+            const QVector<XKeyObserver::Event> events = m_observer->waitForEvents(2);
+            QCOMPARE(events.size(), 2);
+            QCOMPARE(QStringLiteral("0x%1: ").arg(key, 0, 16) +
+                         QString::number(m_observer->keysymOf(events.at(0).keycode), 16),
+                     QStringLiteral("0x%1: ").arg(key, 0, 16) + QString::number(VirtualKeyTable::keysym(key), 16));
+            QVERIFY(events.at(0).press && !events.at(1).press);
+        }
     }
 
     void shouldRefuseAnUnknownVirtualKey()

@@ -1,0 +1,8 @@
+#include "generickeyboardlayout.h"
+
+void GenericKeyboardLayout::reload() {}
+
+quint32 GenericKeyboardLayout::baseKeysym(quint16) const
+{
+    return 0;
+}
