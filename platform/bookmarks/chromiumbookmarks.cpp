@@ -48,8 +48,7 @@ QJsonObject readJsonObject(const QString& path, bool logFailure)
     return document.object();
 }
 
-void collect(const QJsonObject& node, const QString& folder, const QString& browser, int depth,
-             BookmarkList* bookmarks)
+void collect(const QJsonObject& node, const QString& folder, const QString& browser, int depth, BookmarkList* bookmarks)
 {
     if (depth > MaxFolderDepth)
         return;
@@ -85,11 +84,13 @@ QVector<BookmarkSource> ChromiumBookmarks::sources(const QString& home, const QS
         const QString name = QString::fromLatin1(browser.name);
         const QString directory = QString::fromLatin1(browser.configDirectory);
         sources.append({name, configHome + QLatin1Char('/') + directory});
-        sources.append({name, QStringLiteral("%1/.var/app/%2/config/%3")
-                                  .arg(home, QString::fromLatin1(browser.flatpakId), directory)});
+        sources.append(
+            {name,
+             QStringLiteral("%1/.var/app/%2/config/%3").arg(home, QString::fromLatin1(browser.flatpakId), directory)});
     }
     sources.append({QStringLiteral("Chromium"), home + QStringLiteral("/snap/chromium/common/chromium")});
-    sources.append({QStringLiteral("Brave"), home + QStringLiteral("/snap/brave/current/.config/BraveSoftware/Brave-Browser")});
+    sources.append(
+        {QStringLiteral("Brave"), home + QStringLiteral("/snap/brave/current/.config/BraveSoftware/Brave-Browser")});
     return sources;
 }
 

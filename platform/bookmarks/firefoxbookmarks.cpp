@@ -85,8 +85,7 @@ BookmarkList readOpenDatabase(QSqlDatabase& database, const QString& browser, co
     query.setForwardOnly(true);
     if (!query.exec(QStringLiteral("SELECT b.id, b.type, b.parent, b.title, b.guid, p.url FROM moz_bookmarks b "
                                    "LEFT JOIN moz_places p ON p.id = b.fk ORDER BY b.parent, b.position"))) {
-        LOG_MSG(QStringLiteral("not a Firefox bookmark database: %1 (%2)")
-                    .arg(placesFile, query.lastError().text()));
+        LOG_MSG(QStringLiteral("not a Firefox bookmark database: %1 (%2)").arg(placesFile, query.lastError().text()));
         return bookmarks;
     }
     QHash<qint64, Node> folders;
@@ -101,7 +100,8 @@ BookmarkList readOpenDatabase(QSqlDatabase& database, const QString& browser, co
         const int type = query.value(1).toInt();
         const qint64 parent = query.value(2).toLongLong();
         if (type == 2)
-            folders.insert(query.value(0).toLongLong(), Node{parent, query.value(3).toString(), query.value(4).toString()});
+            folders.insert(query.value(0).toLongLong(),
+                           Node{parent, query.value(3).toString(), query.value(4).toString()});
         else if (type == 1 && isOpenableBookmarkUrl(query.value(5).toString()))
             rows.append(Row{parent, query.value(3).toString(), query.value(5).toString()});
     }

@@ -1,7 +1,8 @@
 #include "desktopexec.h"
 
+#include "programlocator.h"
+
 #include <QFileInfo>
-#include <QStandardPaths>
 
 #include <glib.h>
 
@@ -100,7 +101,7 @@ QString DesktopExec::commandLine() const
     return quoted.join(QLatin1Char(' '));
 }
 
-QString DesktopExec::executable() const
+QString DesktopExec::executable(ProgramLocator& locator) const
 {
     int index = 0;
     if (!m_arguments.isEmpty() && QFileInfo(m_arguments.first()).fileName() == QLatin1String("env")) {
@@ -110,9 +111,6 @@ QString DesktopExec::executable() const
     }
     if (index >= m_arguments.size())
         return QString();
-    const QString program = m_arguments[index];
-    if (program.contains(QLatin1Char('/')))
-        return program;
-    const QString found = QStandardPaths::findExecutable(program);
-    return found.isEmpty() ? program : found;
+    const QString found = locator.find(m_arguments[index]);
+    return found.isEmpty() ? m_arguments[index] : found;
 }

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class ProgramLocator;
+
 // The Exec line of a desktop entry turned into what a key stores: a command
 // line without field codes, and the program it runs.
 class DesktopExec
@@ -22,7 +24,7 @@ public:
     QString commandLine() const;
     // The program that runs, past an "env NAME=value" prefix, resolved on
     // PATH to an absolute path where it can be found.
-    QString executable() const;
+    QString executable(ProgramLocator& locator) const;
 
     static QString removeFieldCodes(const QString& argument);
     static QString quoteArgument(const QString& argument);

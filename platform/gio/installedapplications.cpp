@@ -2,6 +2,7 @@
 
 #include "desktopexec.h"
 #include "logging.h"
+#include "programlocator.h"
 
 #include <QCollator>
 
@@ -37,7 +38,7 @@ void readIcon(GAppInfo* info, ApplicationEntry* entry)
     }
 }
 
-bool readEntry(GAppInfo* info, ApplicationEntry* entry)
+bool readEntry(GAppInfo* info, ProgramLocator& locator, ApplicationEntry* entry)
 {
     const DesktopExec exec(fromUtf8(g_app_info_get_commandline(info)));
     entry->desktopId = fromUtf8(g_app_info_get_id(info));
@@ -48,7 +49,7 @@ bool readEntry(GAppInfo* info, ApplicationEntry* entry)
     entry->name = fromUtf8(g_app_info_get_display_name(info));
     entry->description = fromUtf8(g_app_info_get_description(info));
     entry->commandLine = exec.commandLine();
-    entry->executable = exec.executable();
+    entry->executable = exec.executable(locator);
     readIcon(info, entry);
     return true;
 }
@@ -58,11 +59,12 @@ bool readEntry(GAppInfo* info, ApplicationEntry* entry)
 ApplicationList InstalledApplications::query()
 {
     ApplicationList applications;
+    ProgramLocator locator;
     GList* all = g_app_info_get_all();
     for (GList* node = all; node; node = node->next) {
         GAppInfo* info = G_APP_INFO(node->data);
         ApplicationEntry entry;
-        if (g_app_info_should_show(info) && readEntry(info, &entry))
+        if (g_app_info_should_show(info) && readEntry(info, locator, &entry))
             applications.append(entry);
     }
     g_list_free_full(all, g_object_unref);

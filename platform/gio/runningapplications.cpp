@@ -23,7 +23,8 @@ QString desktopIdStem(const QString& desktopId)
     return stem.mid(stem.lastIndexOf(QLatin1Char('.')) + 1);
 }
 
-const ApplicationEntry* findBy(const ApplicationList& installed, const std::function<bool(const ApplicationEntry&)>& test)
+const ApplicationEntry* findBy(const ApplicationList& installed,
+                               const std::function<bool(const ApplicationEntry&)>& test)
 {
     for (const ApplicationEntry& entry : installed) {
         if (test(entry))
@@ -34,8 +35,7 @@ const ApplicationEntry* findBy(const ApplicationList& installed, const std::func
 
 } // namespace
 
-const ApplicationEntry* RunningApplications::findInstalled(const QString& executable,
-                                                           const ApplicationList& installed)
+const ApplicationEntry* RunningApplications::findInstalled(const QString& executable, const ApplicationList& installed)
 {
     const QString path = canonical(executable);
     const QString fileName = QFileInfo(executable).fileName();

@@ -211,8 +211,8 @@ QVector<quint32> X11WindowSystem::clientWindowIds()
     if (listAtom == XCB_ATOM_NONE)
         return windows;
     // 4096 windows are more than any desktop shows.
-    xcb_get_property_cookie_t cookie = xcb_get_property(
-        connection, 0, xcb_window_t(QX11Info::appRootWindow()), listAtom, XCB_ATOM_WINDOW, 0, 4096);
+    xcb_get_property_cookie_t cookie =
+        xcb_get_property(connection, 0, xcb_window_t(QX11Info::appRootWindow()), listAtom, XCB_ATOM_WINDOW, 0, 4096);
     xcb_get_property_reply_t* reply = xcb_get_property_reply(connection, cookie, nullptr);
     if (!reply)
         return windows;

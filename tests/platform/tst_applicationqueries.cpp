@@ -2,6 +2,7 @@
 // copy of this test: GIO reads the variable once per process.
 #include "desktopexec.h"
 #include "installedapplications.h"
+#include "programlocator.h"
 #include "runningapplications.h"
 #include "testmain.h"
 
@@ -66,8 +67,11 @@ private slots:
                   "[Desktop Entry]\nType=Application\nName=Text Editor\nName[de]=Texteditor\n"
                   "Comment=Edit text\nExec=sh -c 'exit 0' %U\nIcon=accessories-text-editor\n");
         writeFile(system + QStringLiteral("percent.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Percent\nExec=\"" + m_fixture.filePath(QStringLiteral("My Tool/run")).toUtf8() + "\" --rate=50%% %f\n"
-                  "Icon=" + m_fixture.filePath(QStringLiteral("icon.png")).toUtf8() + "\n");
+                  "[Desktop Entry]\nType=Application\nName=Percent\nExec=\"" +
+                      m_fixture.filePath(QStringLiteral("My Tool/run")).toUtf8() +
+                      "\" --rate=50%% %f\n"
+                      "Icon=" +
+                      m_fixture.filePath(QStringLiteral("icon.png")).toUtf8() + "\n");
         writeFile(system + QStringLiteral("hidden.desktop"),
                   "[Desktop Entry]\nType=Application\nName=Hidden\nExec=true\nNoDisplay=true\n");
         writeFile(system + QStringLiteral("missing.desktop"),
@@ -79,8 +83,8 @@ private slots:
 
         QProcess helper;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_DATA_DIRS"), m_fixture.filePath(QStringLiteral("usr/share")) +
-                                                                 QLatin1Char(':') + flatpak);
+        environment.insert(QStringLiteral("XDG_DATA_DIRS"),
+                           m_fixture.filePath(QStringLiteral("usr/share")) + QLatin1Char(':') + flatpak);
         environment.insert(QStringLiteral("LANGUAGE"), QStringLiteral("de"));
         environment.insert(QStringLiteral("PATH"), m_fixture.filePath(QStringLiteral("bin")) + QLatin1Char(':') +
                                                        environment.value(QStringLiteral("PATH")));
@@ -101,17 +105,29 @@ private slots:
         QTest::addColumn<QString>("executable");
         const QString tool = m_fixture.filePath(QStringLiteral("My Tool/run"));
         QTest::newRow("translated name, field code dropped")
-            << "org.example.Editor.desktop" << "Texteditor" << "sh -c \"exit 0\"" << "accessories-text-editor"
-            << QStandardPaths::findExecutable(QStringLiteral("sh"));
+            << "org.example.Editor.desktop"
+            << "Texteditor"
+            << "sh -c \"exit 0\""
+            << "accessories-text-editor" << QStandardPaths::findExecutable(QStringLiteral("sh"));
         QTest::newRow("quoted program, %% kept, icon file")
-            << "percent.desktop" << "Percent" << "\"" + tool + "\" --rate=50%"
-            << m_fixture.filePath(QStringLiteral("icon.png")) << tool;
+            << "percent.desktop"
+            << "Percent"
+            << "\"" + tool + "\" --rate=50%" << m_fixture.filePath(QStringLiteral("icon.png")) << tool;
         QTest::newRow("flatpak export without file forwarding")
-            << "org.example.Flat.desktop" << "Flat App"
+            << "org.example.Flat.desktop"
+            << "Flat App"
             << "flatpak run --branch=stable --arch=x86_64 --command=flat --file-forwarding org.example.Flat"
             << "org.example.Flat" << m_fixture.filePath(QStringLiteral("bin/flatpak"));
-        QTest::newRow("NoDisplay") << "hidden.desktop" << "" << "" << "" << "";
-        QTest::newRow("TryExec missing") << "missing.desktop" << "" << "" << "" << "";
+        QTest::newRow("NoDisplay") << "hidden.desktop"
+                                   << ""
+                                   << ""
+                                   << ""
+                                   << "";
+        QTest::newRow("TryExec missing") << "missing.desktop"
+                                         << ""
+                                         << ""
+                                         << ""
+                                         << "";
     }
 
     void shouldListInstalledApplicationsFromTheDataDirectories()
@@ -167,15 +183,46 @@ private slots:
         const QString sh = QStandardPaths::findExecutable(QStringLiteral("sh"));
         QTest::newRow("on PATH") << "sh -c true" << sh;
         QTest::newRow("past env") << "env A=1 B=2 sh %U" << sh;
-        QTest::newRow("absolute") << "/opt/tool/run" << "/opt/tool/run";
-        QTest::newRow("not found") << "no-such-program-here" << "no-such-program-here";
+        QTest::newRow("absolute") << "/opt/tool/run"
+                                  << "/opt/tool/run";
+        QTest::newRow("not found") << "no-such-program-here"
+                                   << "no-such-program-here";
     }
 
     void shouldResolveTheProgramThatRuns()
     {
         QFETCH(QString, exec);
         QFETCH(QString, executable);
-        QCOMPARE(DesktopExec(exec).executable(), executable);
+        ProgramLocator locator;
+        QCOMPARE(DesktopExec(exec).executable(locator), executable);
+    }
+
+    // The first directory with an executable file of that name wins.
+    void shouldFindProgramsAsAShellWould_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("found");
+        QTest::newRow("first directory") << "both"
+                                         << "a/both";
+        QTest::newRow("not executable there") << "plain"
+                                              << "b/plain";
+        QTest::newRow("a directory of that name") << "dir"
+                                                  << "b/dir";
+        QTest::newRow("nowhere") << "none"
+                                 << "";
+    }
+
+    void shouldFindProgramsAsAShellWould()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, found);
+        QTemporaryDir dir;
+        for (const char* program : {"a/both", "b/both", "b/plain", "b/dir"})
+            writeProgram(dir.filePath(QString::fromLatin1(program)));
+        writeFile(dir.filePath(QStringLiteral("a/plain")), "text");
+        QDir(dir.path()).mkpath(QStringLiteral("a/dir"));
+        ProgramLocator locator({dir.filePath(QStringLiteral("a")), dir.filePath(QStringLiteral("b"))});
+        QCOMPARE(locator.find(name), found.isEmpty() ? QString() : dir.filePath(found));
     }
 
     void shouldDescribeRunningProgramsByTheirInstalledApplication_data()
@@ -183,10 +230,18 @@ private slots:
         QTest::addColumn<QString>("executable");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("commandLine");
-        QTest::newRow("same path") << "/usr/bin/editor" << "Editor" << "editor %U";
-        QTest::newRow("same file name") << "/opt/editor/bin/editor" << "Editor" << "editor %U";
-        QTest::newRow("desktop id") << "/app/bin/gedit" << "Gedit" << "flatpak run org.gnome.gedit";
-        QTest::newRow("unknown") << "/opt/Odd Tool/odd" << "odd" << "\"/opt/Odd Tool/odd\"";
+        QTest::newRow("same path") << "/usr/bin/editor"
+                                   << "Editor"
+                                   << "editor %U";
+        QTest::newRow("same file name") << "/opt/editor/bin/editor"
+                                        << "Editor"
+                                        << "editor %U";
+        QTest::newRow("desktop id") << "/app/bin/gedit"
+                                    << "Gedit"
+                                    << "flatpak run org.gnome.gedit";
+        QTest::newRow("unknown") << "/opt/Odd Tool/odd"
+                                 << "odd"
+                                 << "\"/opt/Odd Tool/odd\"";
     }
 
     void shouldDescribeRunningProgramsByTheirInstalledApplication()

@@ -181,8 +181,8 @@ private slots:
         QStringList expected;
         for (const QString& profile : profiles) {
             writeFile(base + '/' + profile + QStringLiteral("/Bookmarks"), chromiumBookmarks(profile));
-            const QString shown = profiles.size() > 1 ? QStringLiteral("%1 (%2)").arg(browser, "Name of " + profile)
-                                                      : browser;
+            const QString shown =
+                profiles.size() > 1 ? QStringLiteral("%1 (%2)").arg(browser, "Name of " + profile) : browser;
             expected << shown + "|Mail " + profile + "|https://mail.example/|Bookmarks bar"
                      << shown + "|https://dev.example/|https://dev.example/|Bookmarks bar / Dev"
                      << shown + "|Phone|https://m.example/|Mobile bookmarks";
@@ -201,18 +201,17 @@ private slots:
         QByteArray nested;
         for (int i = 0; i < 5000; ++i)
             nested += "{\"roots\":";
-        QTest::newRow("places not a database") << ".mozilla/firefox/x.default/places.sqlite"
-                                               << QByteArray(4096, '\x5a') << "cannot open";
-        QTest::newRow("places another database") << ".mozilla/firefox/x.default/places.sqlite" << QByteArray()
-                                                 << "not a Firefox bookmark database";
-        QTest::newRow("bookmarks not JSON") << ".config/chromium/Default/Bookmarks" << QByteArray("{\"roots\": [")
-                                            << "not a bookmark file";
-        QTest::newRow("bookmarks nested too deep") << ".config/chromium/Default/Bookmarks" << nested
-                                                   << "not a bookmark file";
+        QTest::newRow("places not a database") << ".mozilla/firefox/x.default/places.sqlite" << QByteArray(4096, '\x5a')
+                                               << "not a Firefox bookmark database";
+        QTest::newRow("places another database")
+            << ".mozilla/firefox/x.default/places.sqlite" << QByteArray() << "not a Firefox bookmark database";
+        QTest::newRow("bookmarks not JSON")
+            << ".config/chromium/Default/Bookmarks" << QByteArray("{\"roots\": [") << "not a bookmark file";
+        QTest::newRow("bookmarks nested too deep")
+            << ".config/chromium/Default/Bookmarks" << nested << "not a bookmark file";
         QTest::newRow("bookmarks of the wrong shape")
             << ".config/chromium/Default/Bookmarks"
-            << QByteArray(R"({"roots": {"bookmark_bar": {"children": [1, "x", {"type": "url"}]}, "other": 5}})")
-            << "";
+            << QByteArray(R"({"roots": {"bookmark_bar": {"children": [1, "x", {"type": "url"}]}, "other": 5}})") << "";
     }
 
     void shouldLogDamagedFilesAndGoOn()

@@ -102,15 +102,20 @@ private slots:
         QTest::addColumn<int>("source");
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<QString>("executable");
-        QTest::newRow("first of all") << "" << int(ApplicationChooser::Installed) << "Text Editor" << "/usr/bin/gedit";
-        QTest::newRow("by name") << "calc" << int(ApplicationChooser::Installed) << "Calculator" << "/usr/bin/calc";
+        QTest::newRow("first of all") << "" << int(ApplicationChooser::Installed) << "Text Editor"
+                                      << "/usr/bin/gedit";
+        QTest::newRow("by name") << "calc" << int(ApplicationChooser::Installed) << "Calculator"
+                                 << "/usr/bin/calc";
         QTest::newRow("words in any order") << "editor text" << int(ApplicationChooser::Installed) << "Text Editor"
                                             << "/usr/bin/gedit";
-        QTest::newRow("by program") << "xterm" << int(ApplicationChooser::Installed) << "Terminal" << "/usr/bin/xterm";
-        QTest::newRow("nothing matches") << "zzz" << int(ApplicationChooser::Installed) << "" << "";
+        QTest::newRow("by program") << "xterm" << int(ApplicationChooser::Installed) << "Terminal"
+                                    << "/usr/bin/xterm";
+        QTest::newRow("nothing matches") << "zzz" << int(ApplicationChooser::Installed) << ""
+                                         << "";
         QTest::newRow("running, installed") << "term" << int(ApplicationChooser::Running) << "Terminal"
                                             << "/usr/bin/xterm";
-        QTest::newRow("running, unknown") << "odd" << int(ApplicationChooser::Running) << "odd" << "/opt/odd/odd";
+        QTest::newRow("running, unknown") << "odd" << int(ApplicationChooser::Running) << "odd"
+                                          << "/opt/odd/odd";
     }
 
     void shouldFilterAsYouTypeAndTakeTheSelectedEntryOnEnter()

@@ -171,15 +171,16 @@ void ApplicationChooser::showResult()
     }
     if (m_cache->isRunning(query))
         showBusy();
-    m_entries = query == QueryCache::RunningApplications ? m_cache->runningApplications()
-                                                         : m_cache->installedApplications();
+    m_entries =
+        query == QueryCache::RunningApplications ? m_cache->runningApplications() : m_cache->installedApplications();
     m_model->clear();
     for (int i = 0; i < m_entries.size(); ++i) {
         const ApplicationEntry& entry = m_entries[i];
         auto* item = new QStandardItem(entry.icon(), entry.name);
         item->setData(i, EntryRole);
-        item->setData(QStringList{entry.name, entry.description, entry.executable, entry.desktopId}.join(QLatin1Char('\n')),
-                      SearchRole);
+        item->setData(
+            QStringList{entry.name, entry.description, entry.executable, entry.desktopId}.join(QLatin1Char('\n')),
+            SearchRole);
         item->setToolTip(entry.description.isEmpty() ? entry.commandLine
                                                      : entry.description + QLatin1Char('\n') + entry.commandLine);
         m_model->appendRow(item);

@@ -102,8 +102,7 @@ BookmarkChooser::BookmarkChooser(QWidget* parent, QueryCache* cache)
         if (currentBookmark() >= 0)
             accept();
     });
-    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &BookmarkChooser::updateAcceptance);
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, &BookmarkChooser::updateAcceptance);
     connect(m_cache, &QueryCache::started, this, [this](QueryCache::Query query) {
         if (query == QueryCache::Bookmarks)
             showBusy();
