@@ -34,6 +34,7 @@ ApplicationEntry application(const QString& name, const QString& executable)
 struct TestSources
 {
     QAtomicInt calls;
+    QAtomicInt runningCalls;
     QSemaphore gate;
     bool held = false;
     QString thread;
@@ -58,7 +59,10 @@ struct TestSources
                                    application("Terminal", "/usr/bin/xterm"),
                                    application("Calculator", "/usr/bin/calc")};
         };
-        sources.runningExecutables = [] { return QStringList{"/usr/bin/xterm", "/opt/odd/odd"}; };
+        sources.runningExecutables = [this] {
+            runningCalls.fetchAndAddRelaxed(1);
+            return QStringList{"/usr/bin/xterm", "/opt/odd/odd"};
+        };
         sources.bookmarks = [this] {
             pass();
             return BookmarkList{{"Firefox", "Daily news", "https://news.example/", "Toolbar"},
@@ -255,6 +259,18 @@ private slots:
         QTest::mouseClick(refresh, Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(m_sources->calls.loadAcquire(), 2, 30000);
         QTRY_VERIFY_WITH_TIMEOUT(!m_cache->isRunning(QueryCache::InstalledApplications), 30000);
+    }
+
+    // Windows come and go, programs are seldom installed: each chooser asks
+    // for the running ones again, and for the installed ones only once.
+    void shouldAskForRunningApplicationsAgainInEachChooser()
+    {
+        for (int round = 1; round <= 2; ++round) {
+            ApplicationChooser chooser(ApplicationChooser::Running, nullptr, m_cache.get());
+            QTRY_COMPARE_WITH_TIMEOUT(m_sources->runningCalls.loadAcquire(), round, 30000);
+            QTRY_VERIFY_WITH_TIMEOUT(!m_cache->isRunning(QueryCache::RunningApplications), 30000);
+        }
+        QCOMPARE(m_sources->calls.loadAcquire(), 1);
     }
 
     void shouldRunQueriesOnTheTaskWorker_data()

@@ -161,6 +161,12 @@ void ApplicationChooser::showBusy()
 void ApplicationChooser::showResult()
 {
     const QueryCache::Query query = currentQuery();
+    // Windows come and go: the running list is asked anew once per chooser,
+    // showing the kept one meanwhile.
+    if (query == QueryCache::RunningApplications && !m_runningAsked) {
+        m_runningAsked = true;
+        m_cache->refresh(query);
+    }
     m_cache->request(query);
     if (m_cache->isRunning(query) && !m_cache->hasResult(query)) {
         m_entries.clear();

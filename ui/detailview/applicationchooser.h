@@ -55,6 +55,7 @@ private:
     QueryCache* m_cache;
     Sources m_sources;
     ApplicationList m_entries;
+    bool m_runningAsked = false;
     QTabBar* m_tabs = nullptr;
     ChooserSearchField* m_search = nullptr;
     QListView* m_list = nullptr;
