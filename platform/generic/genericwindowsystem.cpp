@@ -41,3 +41,8 @@ QString GenericWindowSystem::foregroundApplicationName()
 {
     return QString();
 }
+
+QStringList GenericWindowSystem::runningApplicationExecutables()
+{
+    return QStringList();
+}

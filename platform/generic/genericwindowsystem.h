@@ -17,6 +17,7 @@ public:
     bool activateWindowId(quint64 windowId) override;
     bool canQueryForegroundApplication() const override;
     QString foregroundApplicationName() override;
+    QStringList runningApplicationExecutables() override;
 
 private:
     QString m_name;

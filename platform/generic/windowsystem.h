@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <memory>
 
 class QWindow;
@@ -34,6 +35,10 @@ public:
     // The executable's base name ("editor" for /opt/tools/editor.sh) of the
     // process that owns the active window; empty whenever a step is unknown.
     virtual QString foregroundApplicationName() = 0;
+    // The absolute paths of the programs whose processes own the desktop's
+    // top-level windows, each once, in the window manager's order; empty
+    // where the desktop does not tell. Callable from any thread.
+    virtual QStringList runningApplicationExecutables() = 0;
 
     // The implementation for the running Qt platform.
     static std::unique_ptr<WindowSystem> create();

@@ -180,6 +180,12 @@ quint32 X11WindowSystem::windowProcessId(quint32 window)
 
 QString X11WindowSystem::executableBaseName(qint64 pid)
 {
+    const QString path = executablePath(pid);
+    return path.isEmpty() ? QString() : QFileInfo(path).baseName();
+}
+
+QString X11WindowSystem::executablePath(qint64 pid)
+{
     if (pid <= 0)
         return QString();
     const QByteArray link = "/proc/" + QByteArray::number(pid) + "/exe";
@@ -192,5 +198,43 @@ QString X11WindowSystem::executableBaseName(qint64 pid)
     const QLatin1String deleted(" (deleted)");
     if (path.endsWith(deleted))
         path.chop(deleted.size());
-    return QFileInfo(path).baseName();
+    return path;
+}
+
+QVector<quint32> X11WindowSystem::clientWindowIds()
+{
+    QVector<quint32> windows;
+    xcb_connection_t* connection = QX11Info::connection();
+    if (!connection || !QX11Info::isPlatformX11())
+        return windows;
+    const xcb_atom_t listAtom = internAtom(connection, "_NET_CLIENT_LIST");
+    if (listAtom == XCB_ATOM_NONE)
+        return windows;
+    // 4096 windows are more than any desktop shows.
+    xcb_get_property_cookie_t cookie =
+        xcb_get_property(connection, 0, xcb_window_t(QX11Info::appRootWindow()), listAtom, XCB_ATOM_WINDOW, 0, 4096);
+    xcb_get_property_reply_t* reply = xcb_get_property_reply(connection, cookie, nullptr);
+    if (!reply)
+        return windows;
+    if (reply->type == XCB_ATOM_WINDOW && reply->format == 32) {
+        const auto* ids = static_cast<const quint32*>(xcb_get_property_value(reply));
+        const int count = xcb_get_property_value_length(reply) / 4;
+        windows.reserve(count);
+        for (int i = 0; i < count; ++i)
+            windows.append(ids[i]);
+    }
+    std::free(reply);
+    return windows;
+}
+
+QStringList X11WindowSystem::runningApplicationExecutables()
+{
+    QStringList executables;
+    for (const quint32 window : clientWindowIds()) {
+        const quint32 pid = windowProcessId(window);
+        const QString path = pid ? executablePath(pid) : QString();
+        if (!path.isEmpty() && !executables.contains(path))
+            executables.append(path);
+    }
+    return executables;
 }

@@ -61,6 +61,13 @@ void removeActiveWindow()
     xcb_delete_property(QX11Info::connection(), xcb_window_t(QX11Info::appRootWindow()), atom("_NET_ACTIVE_WINDOW"));
 }
 
+// What a window manager publishes: the windows it manages.
+void setClientList(const QVector<xcb_window_t>& windows)
+{
+    xcb_change_property(QX11Info::connection(), XCB_PROP_MODE_REPLACE, xcb_window_t(QX11Info::appRootWindow()),
+                        atom("_NET_CLIENT_LIST"), XCB_ATOM_WINDOW, 32, uint32_t(windows.size()), windows.constData());
+}
+
 } // namespace
 
 class ForegroundApplicationTest : public QObject
@@ -133,6 +140,41 @@ private slots:
             setActiveWindow(window.id());
         QCOMPARE(WindowSystem::create()->foregroundApplicationName(),
                  missing.isEmpty() ? QStringLiteral("tst_foregroundapplication") : QString());
+    }
+
+    // Each program once, in the window manager's order; windows without a
+    // live process are left out.
+    void shouldListTheProgramsOfTheManagedWindows_data()
+    {
+        QTest::addColumn<bool>("published");
+        QTest::newRow("client list published") << true;
+        QTest::newRow("no window manager") << false;
+    }
+
+    void shouldListTheProgramsOfTheManagedWindows()
+    {
+        QFETCH(bool, published);
+        QTemporaryDir dir;
+        const QString program = dir.filePath(QStringLiteral("tool"));
+        QVERIFY(QFile::copy(QStringLiteral("/bin/sleep"), program));
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+        QProcess sleeper;
+        sleeper.start(program, {QStringLiteral("600")});
+        QVERIFY(sleeper.waitForStarted());
+        TestWindow tool, noPid, self, selfAgain, ended;
+        tool.setPid(quint32(sleeper.processId()));
+        self.setPid(quint32(::getpid()));
+        selfAgain.setPid(quint32(::getpid()));
+        ended.setPid(quint32(endedProcessId()));
+        if (published)
+            setClientList({tool.id(), noPid.id(), self.id(), ended.id(), selfAgain.id()});
+        const QStringList running = WindowSystem::create()->runningApplicationExecutables();
+        sleeper.kill();
+        sleeper.waitForFinished();
+        xcb_delete_property(QX11Info::connection(), xcb_window_t(QX11Info::appRootWindow()), atom("_NET_CLIENT_LIST"));
+        const QStringList expected{QFileInfo(program).canonicalFilePath(),
+                                   QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath()};
+        QCOMPARE(running, published ? expected : QStringList());
     }
 
 private:

@@ -33,6 +33,12 @@ void FakeWindowSystem::setCanQueryForegroundApplication(bool canQuery)
     m_canQuery = canQuery;
 }
 
+void FakeWindowSystem::setRunningApplications(const QStringList& executables)
+{
+    QMutexLocker lock(&m_mutex);
+    m_running = executables;
+}
+
 QVector<FakeWindowSystem::Activation> FakeWindowSystem::activations() const
 {
     QMutexLocker lock(&m_mutex);
@@ -78,4 +84,10 @@ QString FakeWindowSystem::foregroundApplicationName()
 {
     QMutexLocker lock(&m_mutex);
     return m_canQuery ? m_application : QString();
+}
+
+QStringList FakeWindowSystem::runningApplicationExecutables()
+{
+    QMutexLocker lock(&m_mutex);
+    return m_running;
 }

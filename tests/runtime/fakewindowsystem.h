@@ -24,6 +24,7 @@ public:
     // (like Wayland) reports none.
     void setForegroundApplication(const QString& name);
     void setCanQueryForegroundApplication(bool canQuery);
+    void setRunningApplications(const QStringList& executables);
     QVector<Activation> activations() const;
 
     QString name() const override;
@@ -33,6 +34,7 @@ public:
     bool activateWindowId(quint64 windowId) override;
     bool canQueryForegroundApplication() const override;
     QString foregroundApplicationName() override;
+    QStringList runningApplicationExecutables() override;
 
 private:
     mutable QMutex m_mutex;
@@ -41,5 +43,6 @@ private:
     bool m_obeys = true;
     QString m_application;
     bool m_canQuery = true;
+    QStringList m_running;
     QVector<Activation> m_activations;
 };
