@@ -161,6 +161,25 @@ private slots:
         QTRY_COMPARE(recorder->events.last(), QStringLiteral("connected"));
     }
 
+    // Opening a keypad forgets the key held on the one before, whose release
+    // never comes: it must not block the keys of the next. Each switch comes
+    // while the polling loop may still be handling that key's report.
+    void shouldForgetTheHeldKeyWhenAKeypadOpens()
+    {
+        QVERIFY(start());
+        other = std::make_unique<SimulatedKeypad>(0x1F41);
+        SimulatedKeypad* const keypads[] = {keypad, other.get()};
+        for (int round = 0; round < 8; ++round) {
+            SimulatedKeypad* from = keypads[round % 2];
+            from->pressKey(3);
+            hid->switchTransport(keypads[(round + 1) % 2]);
+            QVERIFY(hid->isOpened());
+            from->releaseKey(3);
+        }
+        keypad->pressKey(5);
+        QTRY_COMPARE(recorder->keyEvents().value(recorder->keyEvents().size() - 1), QStringLiteral("press 6"));
+    }
+
     // The recording transport stands for hidapi. Each keypad refuses and
     // counts a call with a handle it did not give out.
     void shouldSwitchTransportsWithoutAHandleCrossingOver()
