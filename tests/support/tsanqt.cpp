@@ -8,7 +8,17 @@
 // own function and tells the sanitizer what was acquired or released.
 // QtCore's calls among its own functions stay as they are; tests/tsan.supp
 // names what that leaves unseen.
+//
+// Queued calls and posted events travel through QtCore's own event queues:
+// every emit, invokeMethod and postEvent from outside QtCore releases one
+// sync point, and every event delivered (TsanApplication::notify, called for
+// every event on every thread in Qt 5) acquires it. That is coarser than the
+// queues themselves, so it may hide a race, never invent one.
 
+#include "tsanqt.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
 #include <QMutex>
 #include <QThread>
 #include <QVariant>
@@ -27,6 +37,9 @@ Function qtCoreFunction(const char* symbol)
         qFatal("tsanqmutex: %s not found in QtCore", symbol);
     return reinterpret_cast<Function>(found);
 }
+
+// The one sync point of all event hand-overs.
+char eventHandOver;
 
 } // namespace
 
@@ -103,4 +116,50 @@ bool QThread::wait(unsigned long time)
     if (ended)
         __tsan_acquire(this);
     return ended;
+}
+
+void QMetaObject::activate(QObject* sender, const QMetaObject* meta, int localSignalIndex, void** argv)
+{
+    static const auto real = qtCoreFunction<void (*)(QObject*, const QMetaObject*, int, void**)>(
+        "_ZN11QMetaObject8activateEP7QObjectPKS_iPPv");
+    __tsan_release(&eventHandOver);
+    real(sender, meta, localSignalIndex, argv);
+}
+
+bool QMetaObject::invokeMethodImpl(QObject* object, QtPrivate::QSlotObjectBase* slot, Qt::ConnectionType type,
+                                   void* ret)
+{
+    static const auto real = qtCoreFunction<bool (*)(QObject*, QtPrivate::QSlotObjectBase*, Qt::ConnectionType, void*)>(
+        "_ZN11QMetaObject16invokeMethodImplEP7QObjectPN9QtPrivate15QSlotObjectBaseEN2Qt14ConnectionTypeEPv");
+    __tsan_release(&eventHandOver);
+    return real(object, slot, type, ret);
+}
+
+bool QMetaObject::invokeMethod(QObject* object, const char* member, Qt::ConnectionType type, QGenericReturnArgument ret,
+                               QGenericArgument a0, QGenericArgument a1, QGenericArgument a2, QGenericArgument a3,
+                               QGenericArgument a4, QGenericArgument a5, QGenericArgument a6, QGenericArgument a7,
+                               QGenericArgument a8, QGenericArgument a9)
+{
+    using Real = bool (*)(QObject*, const char*, Qt::ConnectionType, QGenericReturnArgument, QGenericArgument,
+                          QGenericArgument, QGenericArgument, QGenericArgument, QGenericArgument, QGenericArgument,
+                          QGenericArgument, QGenericArgument, QGenericArgument, QGenericArgument);
+    static const auto real =
+        qtCoreFunction<Real>("_ZN11QMetaObject12invokeMethodEP7QObjectPKcN2Qt14ConnectionTypeE22QGe"
+                             "nericReturnArgument16QGenericArgumentS7_S7_S7_S7_S7_S7_S7_S7_S7_");
+    __tsan_release(&eventHandOver);
+    return real(object, member, type, ret, a0, a1, a2, a3, a4, a5, a6, a7, a8, a9);
+}
+
+void QCoreApplication::postEvent(QObject* receiver, QEvent* event, int priority)
+{
+    static const auto real =
+        qtCoreFunction<void (*)(QObject*, QEvent*, int)>("_ZN16QCoreApplication9postEventEP7QObjectP6QEventi");
+    __tsan_release(&eventHandOver);
+    real(receiver, event, priority);
+}
+
+bool TsanApplication::notify(QObject* receiver, QEvent* event)
+{
+    __tsan_acquire(&eventHandOver);
+    return QApplication::notify(receiver, event);
 }
