@@ -6,7 +6,7 @@
 
 #include <QFile>
 
-IPC_Thread::IPC_Thread(QObject* parent) : QThread(parent)
+IPC_Thread::IPC_Thread(QObject* parent, int pollIntervalMs) : QThread(parent), m_pollIntervalMs(pollIntervalMs)
 {
     setObjectName(QStringLiteral("ipc_thread"));
     // Cleared here rather than in run(): a stop() that comes before the
@@ -22,7 +22,13 @@ IPC_Thread::~IPC_Thread()
 
 void IPC_Thread::stop()
 {
-    m_stop = true;
+    {
+        // Set under the mutex: the loop tests the flag under it before it
+        // waits, so the wake can never fall between that test and the wait.
+        QMutexLocker locker(&m_waitMutex);
+        m_stop = true;
+        m_wake.wakeAll();
+    }
     quit();
     wait();
 }
@@ -33,11 +39,18 @@ void IPC_Thread::run()
     // The flag is tested after a whole pass, so within one pass a request to
     // come to the front is always handled before a file to open.
     do {
-        msleep(PollIntervalMs);
+        waitForNextPass();
         handelActionAccordingToken(TokenBringToFront);
         handelActionAccordingToken(TokenOpenFile);
     } while (!m_stop);
     LOG_MSG(QStringLiteral("exit"));
+}
+
+void IPC_Thread::waitForNextPass()
+{
+    QMutexLocker locker(&m_waitMutex);
+    if (!m_stop)
+        m_wake.wait(&m_waitMutex, m_pollIntervalMs);
 }
 
 void IPC_Thread::handelActionAccordingToken(int token)

@@ -233,24 +233,23 @@ void Hid_Comm::deviceLost()
 void Hid_Comm::pollOwnProtocol()
 {
     KEYBUTTON_DATA keys;
-    int result;
-    {
-        QMutexLocker gate(&readGate);
-        if (!opened.load() || vendorLibraryInUse.load())
-            return;
-        result = device.vT_ReadKeyButtonTimeout(&keys, PollTimeoutMs);
-        // A read error, or a handle that vanished under us: either way the
-        // keypad is gone until it arrives again. Closed under the gate, so a
-        // transport switch cannot come between the failed read and the close.
-        if (result != Err_Timeout && result != Err_Success && result != Err_ParamInvalid) {
-            deviceLost();
-            return;
-        }
-    }
+    // The whole report is handled under the gate: opening a keypad forgets
+    // the held key from another thread, and must not do so halfway through.
+    QMutexLocker gate(&readGate);
+    if (!opened.load() || vendorLibraryInUse.load())
+        return;
+    const int result = device.vT_ReadKeyButtonTimeout(&keys, PollTimeoutMs);
     if (result == Err_Timeout)
         return;
     if (result == Err_ParamInvalid) {
         LOG_MSG(QStringLiteral("read keyboard get Err_ParamInvalid!"));
+        return;
+    }
+    // A read error, or a handle that vanished under us: either way the
+    // keypad is gone until it arrives again. Closed under the gate, so a
+    // transport switch cannot come between the failed read and the close.
+    if (result != Err_Success) {
+        deviceLost();
         return;
     }
     if (paused.load()) {

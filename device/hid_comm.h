@@ -114,6 +114,8 @@ private:
     QMutex idleMutex;
     QWaitCondition idleWake;
 
+    // The held key: the polling loop's, but forgotten when a keypad is
+    // opened from the GUI thread; both sides touch it under the gate.
     int heldKey = -1;
     bool pressReported = false;
     bool vendorKeyDown[16] = {};

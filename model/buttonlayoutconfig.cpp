@@ -51,7 +51,8 @@ QString ButtonLayoutConfig::layoutName(int layout)
 int ButtonLayoutConfig::currentLayoutOf(int fallback)
 {
     const auto* config = qobject_cast<ButtonLayoutConfig*>(ObjectRegistry::find(ComponentId::ButtonLayoutConfig));
-    return config && isValidLayout(config->currentLayout()) ? config->currentLayout() : fallback;
+    const int layout = config ? config->currentLayout() : -1;
+    return isValidLayout(layout) ? layout : fallback;
 }
 
 bool ButtonLayoutConfig::changeLayout(int layout)

@@ -7,6 +7,8 @@
 #include <QSize>
 #include <QString>
 
+#include <atomic>
+
 // Which of the six layouts is in force, and the sizes that follow from it.
 class ButtonLayoutConfig : public QObject
 {
@@ -40,5 +42,6 @@ public slots:
     void reloadLayout();
 
 private:
-    int m_layout = -1;
+    // Written on the GUI thread, read by the key action thread on every key.
+    std::atomic<int> m_layout{-1};
 };

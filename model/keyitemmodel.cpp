@@ -126,11 +126,13 @@ void KeyItemModel::rebuildKeyIndexTable()
 
 int KeyItemModel::currentLayout() const
 {
+    QMutexLocker locker(&m_updateMutex);
     return m_layout;
 }
 
 QList<KeyItem*>* KeyItemModel::getCurrentLayoutListHead() const
 {
+    QMutexLocker locker(&m_updateMutex);
     return m_listHead;
 }
 
@@ -141,11 +143,13 @@ QList<KeyItem*>* KeyItemModel::rootList(int layout)
 
 KA_Folder* KeyItemModel::currentFolder() const
 {
+    QMutexLocker locker(&m_updateMutex);
     return m_currentFolder;
 }
 
 bool KeyItemModel::isRootList() const
 {
+    QMutexLocker locker(&m_updateMutex);
     return m_listHead == &m_rootLists[m_layout];
 }
 
@@ -156,7 +160,10 @@ bool KeyItemModel::isKeyIdxInRange(int keyIdx) const
 
 KeyItem* KeyItemModel::keyItemAt(int keyIdx) const
 {
-    if (!m_listHead || !isKeyIdxInRange(keyIdx))
+    if (!isKeyIdxInRange(keyIdx))
+        return nullptr;
+    QMutexLocker locker(&m_updateMutex);
+    if (!m_listHead)
         return nullptr;
     for (KeyItem* item : *m_listHead) {
         if (item->keyIdx == keyIdx)
@@ -167,13 +174,17 @@ KeyItem* KeyItemModel::keyItemAt(int keyIdx) const
 
 int KeyItemModel::actionTypeAt(int keyIdx) const
 {
+    QMutexLocker locker(&m_updateMutex);
     const KeyItem* item = keyItemAt(keyIdx);
     return item ? item->actionType : KAT_INVALID;
 }
 
 KeyItemModel::KeyIndexEntry KeyItemModel::keyIndexEntry(int keyIdx) const
 {
-    return isKeyIdxInRange(keyIdx) ? m_keyIndexTable[keyIdx] : KeyIndexEntry();
+    if (!isKeyIdxInRange(keyIdx))
+        return KeyIndexEntry();
+    QMutexLocker locker(&m_updateMutex);
+    return m_keyIndexTable[keyIdx];
 }
 
 KeyItem* KeyItemModel::parentItemForCurrentList() const

@@ -49,6 +49,9 @@ public:
     KeyItem* keyItemAt(int keyIdx) const;
     int actionTypeAt(int keyIdx) const;
     KeyIndexEntry keyIndexEntry(int keyIdx) const;
+    // The bracket's lock without its notifications, for a thread that reads
+    // an item of the current page while the editor may change it.
+    QRecursiveMutex* updateLock() const { return &m_updateMutex; }
 
     // A new item of a type at an empty key of the current page.
     bool createKeyAction(int keyIdx, KeyActionType type);
@@ -109,7 +112,10 @@ private:
     std::array<KeyIndexEntry, MaxKeys> m_keyIndexTable;
     std::array<QList<KeyItem*>, LayoutCount> m_rootLists;
     QTimer* m_saveTimer = nullptr;
-    QRecursiveMutex m_updateMutex;
+    // The bracket's lock. The queries take it too: the key action thread
+    // changes the page inside a bracket while the GUI thread reads, and the
+    // other way round.
+    mutable QRecursiveMutex m_updateMutex;
     QTimer* m_deleteTimer = nullptr;
     QMutex m_deleteMutex;
     QList<KeyItem*> m_pendingDelete;

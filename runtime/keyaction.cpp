@@ -10,6 +10,8 @@
 #include "logging.h"
 #include "objectregistry.h"
 
+#include <QMutex>
+
 namespace {
 
 int currentLayout()
@@ -32,15 +34,14 @@ KeyItem* configuredItem(KeyItemModel* model, int button)
 
 // Feedback goes to the screen of the button's own key. (The image reports
 // number keys from 0 on some models where key reports count from 1.) The face
-// is drawn here and handed to the GUI thread to send, so the action starts at
-// once instead of after the protocol's pauses for one image.
-void showFace(const KeyItem* item, int layout, int button, bool pressedLook)
+// is handed to the GUI thread to send, so the action starts at once instead
+// of after the protocol's pauses for one image.
+void showFace(const QImage& face, int layout, int button, bool pressedLook)
 {
     auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
     if (!hid)
         return;
     const int imageKey = Hid_Comm::deviceKeyNumber(layout, button);
-    const QImage face = KeyFaceRenderer::render(item);
     QMetaObject::invokeMethod(
         hid, [hid, imageKey, face, pressedLook] { hid->sendIcon(imageKey, face, pressedLook); }, Qt::QueuedConnection);
 }
@@ -74,10 +75,20 @@ void KeyAction::onKeyPressed(int devKeyId)
         return;
     }
     const int button = buttonIndex(layout, devKeyId);
-    KeyItem* item = configuredItem(COMPONENT(KeyItemModel, ComponentId::KeyItemModel), button);
-    if (!item)
-        return;
-    showFace(item, layout, button, true);
+    auto* model = COMPONENT(KeyItemModel, ComponentId::KeyItemModel);
+    KeyItem* item = nullptr;
+    QImage face;
+    {
+        // The editor changes items under the model's lock: look and draw
+        // under it too. The action runs outside it, so a slow one never holds
+        // up the editor (an item outlives its removal by seconds).
+        QMutexLocker locker(model ? model->updateLock() : nullptr);
+        item = configuredItem(model, button);
+        if (!item)
+            return;
+        face = KeyFaceRenderer::render(item);
+    }
+    showFace(face, layout, button, true);
     item->currentAction()->doAction(0);
 }
 
@@ -101,7 +112,7 @@ void KeyAction::onKeyRleased(int devKeyId)
     if (toggled)
         item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
     else if (item)
-        showFace(item, layout, button, false);
+        showFace(KeyFaceRenderer::render(item), layout, button, false);
     // Only a toggle changes the model. Its notification redraws the key on
     // the keypad and in the editor and saves the new slot; a plain release
     // neither redraws twice nor starts a save of the whole configuration.

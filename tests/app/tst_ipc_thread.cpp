@@ -92,10 +92,14 @@ private slots:
         Log log;
         ObjectRegistry::registerMainWindow(&window, &log);
         {
-            IPC_Thread thread;
+            // A pass of a minute: stop() must cut it short, not sit it out.
+            IPC_Thread thread(nullptr, 60000);
             QTRY_VERIFY_WITH_TIMEOUT(thread.isRunning(), 30000);
+            QElapsedTimer stopping;
+            stopping.start();
             thread.stop();
             QVERIFY(thread.isFinished());
+            QVERIFY2(stopping.elapsed() < 30000, qPrintable(QString::number(stopping.elapsed())));
         }
         QFile file(log.filePath());
         QVERIFY(file.open(QIODevice::ReadOnly));

@@ -67,11 +67,14 @@ private slots:
         connect(keyAction.get(), &KeyAction::updateContent, &receiver,
                 [&](const KeyItem* changed) { redrawn.append(changed); });
 
+        // The slot is read once the key action thread has told about it: it
+        // changes it under the model's lock, on its own thread.
         click(0);
-        QTRY_COMPARE(item->cfIdx, 1);
         QTRY_COMPARE(redrawn, QList<const KeyItem*>{item});
+        QCOMPARE(item->cfIdx, 1);
         click(0);
-        QTRY_COMPARE(item->cfIdx, 0);
+        QTRY_COMPARE(redrawn, (QList<const KeyItem*>{item, item}));
+        QCOMPARE(item->cfIdx, 0);
         QTRY_COMPARE(services->calls(), (QStringList{"key 65", "key 66"}));
     }
 
@@ -98,6 +101,19 @@ private slots:
         // The back key sits in the page's last position, button 14: key id 11.
         click(10);
         QTRY_COMPARE(fx.model->getCurrentLayoutListHead(), fx.model->rootList(H_Key_15));
+    }
+
+    // The layout changes on the GUI thread while the key action thread reads
+    // it for every event (the ThreadSanitizer build sees an unguarded read).
+    void shouldActOnTheLayoutInForceWhileItChanges()
+    {
+        hotkeyAt(4, 0x41);
+        for (int round = 0; round < 20; ++round) {
+            QMetaObject::invokeMethod(keyAction.get(), "onKeyRleased", Q_ARG(int, 1));
+            fx.layouts->changeLayout(round % 2 ? H_Key_15 : V_Key_15);
+        }
+        click(0);
+        QTRY_COMPARE(services->calls(), QStringList{"key 65"});
     }
 
     void shouldRefuseToActWithoutALayout()

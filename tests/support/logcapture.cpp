@@ -27,7 +27,11 @@ void LogCapture::handler(QtMsgType, const QMessageLogContext&, const QString& me
 QStringList LogCapture::messages() const
 {
     QMutexLocker locker(&m_mutex);
-    return m_messages;
+    // A list of its own: one that shared its data with m_messages would give
+    // it up outside the lock while the handler appends on another thread.
+    QStringList copy = m_messages;
+    copy.detach();
+    return copy;
 }
 
 QStringList LogCapture::matching(const QString& text) const

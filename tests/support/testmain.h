@@ -7,6 +7,13 @@
 #include <QThread>
 #include <QtTest>
 
+#ifdef KEYSTAGE_TSAN
+#include "tsanqt.h"
+using KeystageTestApplication = TsanApplication;
+#else
+using KeystageTestApplication = QApplication;
+#endif
+
 // Test entry with the program's identity and isolated user directories.
 // KEYSTAGE_TEST_MAIN_WITH(TestClass, hook): hook(argc, argv) runs first and
 // may return an exit code (>= 0) to act as a helper process instead.
@@ -21,7 +28,7 @@
         QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));                                             \
         QCoreApplication::setApplicationName(QStringLiteral("Keystage"));                                              \
         QCoreApplication::setApplicationVersion(QStringLiteral(KEYSTAGE_VERSION));                                     \
-        QApplication app(argc, argv);                                                                                  \
+        KeystageTestApplication app(argc, argv);                                                                       \
         QThread::currentThread()->setObjectName(QStringLiteral("UI Thread"));                                          \
         TestObject test;                                                                                               \
         QTEST_SET_MAIN_SOURCE_PATH                                                                                     \
