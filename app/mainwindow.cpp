@@ -270,12 +270,11 @@ void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
     m_formArea->showFunctionDescription(actionType);
 }
 
-// Until the property forms exist, a selected key shows what its action does;
-// an empty key shows how to give it one.
+// A selected key shows its property form; an empty key (or none) shows how
+// to give it an action.
 void MainWindow::onKeySelected(int keyIdx)
 {
-    const int type = m_keyItemModel->actionTypeAt(keyIdx);
-    showFunctionDescription(type >= KAT_FOLDER && type <= KAT_PASTE_STRING ? type : FormArea::NoDescription, false);
+    m_formArea->showKeyForm(keyIdx);
 }
 
 // The keypad connection starts polling at once; the layout in force reaches

@@ -36,6 +36,7 @@ public:
 
     // While paused, key reports are read and dropped.
     void setPaused(bool paused);
+    bool isPaused() const { return paused.load(); }
     bool isOpened() const { return opened.load(); }
     int currentLayout() const { return layout.load(); }
     bool openSDKeyboard(uint32_t vid, uint32_t pid);
