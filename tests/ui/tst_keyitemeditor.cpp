@@ -9,6 +9,7 @@
 #include "keyitemeditor.h"
 #include "keyitemmodel.h"
 #include "logcapture.h"
+#include "metatypes.h"
 #include "objectregistry.h"
 #include "settings.h"
 #include "testmain.h"
@@ -98,6 +99,8 @@ class KeyItemEditorTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { registerModelMetaTypes(); }
+
     void init()
     {
         QFile::remove(Settings().fileName());
@@ -167,7 +170,7 @@ private slots:
         QVERIFY(!editor.setText(QStringLiteral("text")));
         QVERIFY(!editor.setPath(QStringLiteral("firefox")));
         QVERIFY(!editor.setChord(2, ctrlAltT()));
-        QCOMPARE(capture.matching(QStringLiteral("does not fit a KAT_HOTKEY key")).size(), 2);
+        QCOMPARE(capture.matching(QStringLiteral("does not fit a KAT_HOTKEY key")).size(), 3);
 
         m_model->beginUpdate();
         m_model->deleteKeyItem(KeyIdx);

@@ -84,7 +84,7 @@ private:
     {
         fixture.model->beginUpdate();
         fixture.model->createKeyAction(Key, type);
-        fixture.model->endUpdate(true);
+        fixture.model->endUpdate(true, item());
         area->showKeyForm(Key);
         return qobject_cast<Form*>(area->keyForm());
     }
@@ -415,7 +415,7 @@ private slots:
             QVERIFY2(!visible.isEmpty(), widget->metaObject()->className());
             QCOMPARE(widget->accessibleName(), visible);
         }
-        QVERIFY(controls.size() >= 2);
+        QVERIFY(controls.contains(form->titleField()));
         // Tab from the title goes through every control of the form.
         QWidget* at = form->titleField();
         QSet<QWidget*> reached;
