@@ -1,20 +1,27 @@
 #include "actionlist.h"
 #include "formarea.h"
+#include "hid_comm.h"
 #include "hotkeyform.h"
 #include "hotkeyrecorder.h"
 #include "keychord.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
+#include "keyitemform.h"
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "mainwindow.h"
+#include "recordingkeystrokebackend.h"
 #include "simulatedkeypad.h"
+#include "startup.h"
 #include "testmain.h"
+#include "virtualkey.h"
 #include "virtualkeypadwindow.h"
 
 #include <QCheckBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QSettings>
 
 namespace {
@@ -32,6 +39,13 @@ double meanDifference(const QImage& a, const QImage& b)
         }
     }
     return sum / (3.0 * left.width() * left.height());
+}
+
+QString renderDirectory()
+{
+    const QString dir = QCoreApplication::applicationDirPath() + QStringLiteral("/renders");
+    QDir().mkpath(dir);
+    return dir;
 }
 
 KeyChord chord(int qtKey, int virtualKey)
@@ -54,6 +68,7 @@ class MainWindowFormsTest : public QObject
 
 private:
     SimulatedKeypad keypad;
+    RecordingKeystrokeBackend keystrokes;
     std::unique_ptr<QSettings> settings;
     std::unique_ptr<MainWindow> window;
 
@@ -80,6 +95,14 @@ private:
         return -1;
     }
 
+    QString typedKeys() const
+    {
+        QStringList typed;
+        for (const RecordingKeystrokeBackend::Event& event : keystrokes.events())
+            typed << QStringLiteral("%1%2").arg(event.down ? QLatin1Char('v') : QLatin1Char('^')).arg(event.virtualKey);
+        return typed.join(QLatin1Char(' '));
+    }
+
     void pressOnKeypad(int key)
     {
         const int bit = VirtualKeypadWindow::deviceKeyId(layout(), key) - 1;
@@ -88,9 +111,13 @@ private:
     }
 
 private slots:
+    void initTestCase() { Startup::applyStyleSheet(); }
+
     void init()
     {
         HidTransport::setInstance(&keypad);
+        VirtualKey::setBackend(&keystrokes);
+        keystrokes.clear();
         settings = std::make_unique<QSettings>();
         window = std::make_unique<MainWindow>(settings.get(), false);
         window->show();
@@ -102,6 +129,7 @@ private slots:
     {
         window.reset();
         settings.reset();
+        VirtualKey::setBackend(nullptr);
         HidTransport::setInstance(nullptr);
     }
 
@@ -138,6 +166,8 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(keypadShows(key) && meanDifference(keypadImage(key), firstFace) > 1, 30000);
         pressOnKeypad(key);
         QTRY_COMPARE_WITH_TIMEOUT(item->cfIdx, 0, 30000);
+        // Ctrl+1, then Ctrl+2, each down and up.
+        QTRY_COMPARE_WITH_TIMEOUT(typedKeys(), QStringLiteral("v17 v49 ^49 ^17 v17 v50 ^50 ^17"), 30000);
         QTRY_COMPARE_WITH_TIMEOUT(form->nextPressNote()->text(), firstNote, 30000);
 
         // A palette entry replaces the form by its description.
@@ -145,6 +175,39 @@ private slots:
         QCOMPARE(window->formArea()->keyForm(), nullptr);
         QCOMPARE(window->formArea()->shownActionType(), int(KAT_MACROKEY));
         QCOMPARE(grid->selectedKeyIdx(), -1);
+    }
+
+    // Every form fits the 400 pixel column without scrolling sideways; the
+    // column is kept in the build tree (tests/app/renders) to look at.
+    void shouldFitEveryFormIntoTheRightColumn_data()
+    {
+        QTest::addColumn<int>("type");
+        for (int type = KAT_FOLDER; type <= KAT_PASTE_STRING; ++type)
+            QTest::newRow(qPrintable(keyActionTypeToString(type))) << type;
+    }
+
+    void shouldFitEveryFormIntoTheRightColumn()
+    {
+        QFETCH(int, type);
+        const int key = emptyKey();
+        window->keyGrid()->createNewAction(type, key);
+        // A click on a selected folder would open it.
+        window->keyGrid()->cancelSelectedKeyButton(false);
+        QTest::mouseClick(window->keyGrid()->keyButton(key), Qt::LeftButton);
+        QCoreApplication::processEvents();
+        KeyItemForm* form = window->formArea()->keyForm();
+        QVERIFY(form);
+        if (auto* hotkey = qobject_cast<HotkeyForm*>(form))
+            hotkey->toggleBox()->setChecked(true);
+        auto* scroll = window->formArea()->findChild<QScrollArea*>(QStringLiteral("FormScroll"));
+        QVERIFY(scroll);
+        QCoreApplication::processEvents();
+        QVERIFY2(form->minimumSizeHint().width() <= scroll->viewport()->width(),
+                 qPrintable(
+                     QStringLiteral("%1 > %2").arg(form->minimumSizeHint().width()).arg(scroll->viewport()->width())));
+        QCOMPARE(form->width(), scroll->viewport()->width());
+        QVERIFY(window->rightColumn()->grab().save(renderDirectory() +
+                                                   QStringLiteral("/form_%1.png").arg(keyActionTypeToString(type))));
     }
 };
 

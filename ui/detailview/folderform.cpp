@@ -47,6 +47,7 @@ FolderForm::FolderForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     const QString notice = FolderCondition::unavailableNotice();
     if (!notice.isEmpty())
         m_unavailable = addNote(notice);
+    body()->addStretch(1);
 }
 
 QLineEdit* FolderForm::applicationField() const

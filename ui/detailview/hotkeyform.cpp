@@ -20,6 +20,7 @@ HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     m_toggle->setAccessibleName(m_toggle->text());
     body()->addSpacing(4);
     body()->addWidget(m_toggle);
+    m_nextPress = addNote(QString());
 
     m_second = new QWidget(this);
     auto* second = new QVBoxLayout(m_second);
@@ -32,7 +33,7 @@ HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     m_secondTitle->setClearButtonEnabled(true);
     addField(tr("Second title"), m_secondTitle, second);
     body()->addWidget(m_second);
-    m_nextPress = addNote(QString());
+    body()->addStretch(1);
 
     for (int slot = 0; slot < 2; ++slot)
         connect(m_recorder[slot], &HotkeyRecorder::chordChanged, this,
@@ -84,6 +85,6 @@ void HotkeyForm::refreshFields(const KeyItem& item)
     m_second->setVisible(item.multiFeatureFlag);
     setTextIfDifferent(m_secondTitle, titleOf(item, 1));
     m_nextPress->setVisible(item.multiFeatureFlag);
-    m_nextPress->setText(item.cfIdx == 0 ? tr("The keypad shows the first hotkey; the next press performs it.")
-                                         : tr("The keypad shows the second hotkey; the next press performs it."));
+    m_nextPress->setText(item.cfIdx == 0 ? tr("The keypad shows the first hotkey now.")
+                                         : tr("The keypad shows the second hotkey now."));
 }

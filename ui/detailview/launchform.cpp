@@ -49,6 +49,7 @@ LaunchForm::LaunchForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     offerRow->addWidget(m_useName);
     body()->addWidget(m_nameOffer);
     m_nameOffer->hide();
+    body()->addStretch(1);
     connect(m_useName, &QPushButton::clicked, this, [this] {
         m_nameOffer->hide();
         this->editor()->setTitle(0, m_offeredName);

@@ -14,7 +14,9 @@ TextStringForm::TextStringForm(KeyItemEditor* editor, QWidget* parent) : KeyItem
     // Tab leaves the field, so the form works from the keyboard alone; a
     // tab character can still be pasted in.
     m_text->setTabChangesFocus(true);
-    m_text->setMinimumHeight(96);
+    // It takes the room the area has, but never pushes the note out of view.
+    m_text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    m_text->setMinimumHeight(80);
     addField(tr("Text"), m_text);
     body()->setStretchFactor(m_text, 1);
     addNote(tr("The key pastes the text through the clipboard, and the text stays on the clipboard afterwards."));

@@ -28,6 +28,7 @@ WebsiteForm::WebsiteForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(e
     body()->addLayout(row);
     connect(m_bookmark, &QPushButton::clicked, this, &WebsiteForm::chooseBookmark);
     addNote(tr("An address without \"https://\" opens as \"http://\"."));
+    body()->addStretch(1);
 }
 
 QLineEdit* WebsiteForm::addressField() const
