@@ -260,12 +260,11 @@ void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
     m_formArea->showFunctionDescription(actionType);
 }
 
-// Until the property forms exist, a selected key shows what its action does;
-// an empty key shows how to give it one.
+// A selected key shows its property form; an empty key (or none) shows how
+// to give it an action.
 void MainWindow::onKeySelected(int keyIdx)
 {
-    const int type = keyItemModel()->actionTypeAt(keyIdx);
-    showFunctionDescription(type >= KAT_FOLDER && type <= KAT_PASTE_STRING ? type : FormArea::NoDescription, false);
+    m_formArea->showKeyForm(keyIdx);
 }
 
 void MainWindow::watchForegroundApplications(bool background)

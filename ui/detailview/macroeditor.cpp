@@ -6,6 +6,7 @@
 #include "macrostepmodel.h"
 #include "stepbuilder.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -53,18 +54,24 @@ MacroEditor::MacroEditor(QWidget* parent)
     connect(fix, &QPushButton::clicked, this, &MacroEditor::releaseHeldKeys);
     m_warningText->setWordWrap(true);
     m_warning->setFrameShape(QFrame::StyledPanel);
-    auto* warningLayout = new QHBoxLayout(m_warning);
-    warningLayout->addWidget(m_warningText, 1);
-    warningLayout->addWidget(fix);
+    // Stacked, so the warning fits the editor's narrow column.
+    auto* warningLayout = new QVBoxLayout(m_warning);
+    warningLayout->addWidget(m_warningText);
+    warningLayout->addWidget(fix, 0, Qt::AlignLeft);
 
     auto* recordRow = new QHBoxLayout;
     recordRow->addWidget(m_recordButton);
     recordRow->addWidget(m_stopButton);
     recordRow->addWidget(m_status, 1);
-    auto* editRow = new QHBoxLayout;
-    for (QPushButton* button : {insert, text, m_deleteButton, m_upButton, m_downButton, m_clearButton})
-        editRow->addWidget(button);
-    editRow->addStretch(1);
+    // Two rows of three: one row of six does not fit the editor's column.
+    auto* editRow = new QGridLayout;
+    int index = 0;
+    for (QPushButton* button : {insert, text, m_clearButton, m_deleteButton, m_upButton, m_downButton}) {
+        editRow->addWidget(button, index / 3, index % 3);
+        ++index;
+    }
+    setTabOrder(text, m_clearButton);
+    setTabOrder(m_clearButton, m_deleteButton);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(recordRow);

@@ -1,0 +1,215 @@
+#include "actionlist.h"
+#include "formarea.h"
+#include "hid_comm.h"
+#include "hotkeyform.h"
+#include "hotkeyrecorder.h"
+#include "keychord.h"
+#include "keyfacerenderer.h"
+#include "keyitem.h"
+#include "keyitemform.h"
+#include "keyitemgridview.h"
+#include "keyitemmodel.h"
+#include "mainwindow.h"
+#include "recordingkeystrokebackend.h"
+#include "simulatedkeypad.h"
+#include "startup.h"
+#include "testmain.h"
+#include "virtualkey.h"
+#include "virtualkeypadwindow.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QSettings>
+
+namespace {
+
+double meanDifference(const QImage& a, const QImage& b)
+{
+    const QImage left = a.convertToFormat(QImage::Format_RGB32);
+    const QImage right = b.scaled(a.size()).convertToFormat(QImage::Format_RGB32);
+    double sum = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            const QRgb p = left.pixel(x, y);
+            const QRgb q = right.pixel(x, y);
+            sum += qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
+        }
+    }
+    return sum / (3.0 * left.width() * left.height());
+}
+
+QString renderDirectory()
+{
+    const QString dir = QCoreApplication::applicationDirPath() + QStringLiteral("/renders");
+    QDir().mkpath(dir);
+    return dir;
+}
+
+KeyChord chord(int qtKey, int virtualKey)
+{
+    KeyChord made;
+    made.keyCtrl = true;
+    made.qtKeyCode = qtKey;
+    made.nativeCode = virtualKey;
+    return made;
+}
+
+} // namespace
+
+// The whole editor against a keypad made of software: what the forms change
+// shows on the grid and on the keypad, and the keypad's toggling shows in
+// the form.
+class MainWindowFormsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    SimulatedKeypad keypad;
+    RecordingKeystrokeBackend keystrokes;
+    std::unique_ptr<QSettings> settings;
+    std::unique_ptr<MainWindow> window;
+
+    int layout() const { return window->keyItemModel()->currentLayout(); }
+
+    QImage keypadImage(int key) const
+    {
+        return VirtualKeypadWindow::upright(keypad.keyImage(Hid_Comm::deviceKeyNumber(layout(), key)), layout());
+    }
+
+    bool keypadShows(int key) const
+    {
+        const QImage shown = keypadImage(key);
+        const KeyItem* item = window->keyItemModel()->keyItemAt(key);
+        return item && !shown.isNull() && meanDifference(shown, KeyFaceRenderer::render(item)) < 12;
+    }
+
+    int emptyKey() const
+    {
+        for (int key = 0; key < window->keyGrid()->keyButtonCount(); ++key) {
+            if (!window->keyItemModel()->keyItemAt(key) && VirtualKeypadWindow::deviceKeyId(layout(), key) > 0)
+                return key;
+        }
+        return -1;
+    }
+
+    QString typedKeys() const
+    {
+        QStringList typed;
+        for (const RecordingKeystrokeBackend::Event& event : keystrokes.events())
+            typed << QStringLiteral("%1%2").arg(event.down ? QLatin1Char('v') : QLatin1Char('^')).arg(event.virtualKey);
+        return typed.join(QLatin1Char(' '));
+    }
+
+    void pressOnKeypad(int key)
+    {
+        const int bit = VirtualKeypadWindow::deviceKeyId(layout(), key) - 1;
+        keypad.pressKey(bit);
+        keypad.releaseKey(bit);
+    }
+
+private slots:
+    void initTestCase() { Startup::applyStyleSheet(); }
+
+    void init()
+    {
+        HidTransport::setInstance(&keypad);
+        VirtualKey::setBackend(&keystrokes);
+        keystrokes.clear();
+        settings = std::make_unique<QSettings>();
+        window = std::make_unique<MainWindow>(settings.get(), false);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QTRY_COMPARE_WITH_TIMEOUT(keypad.openHandleCount(), 1, 30000);
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        settings.reset();
+        VirtualKey::setBackend(nullptr);
+        HidTransport::setInstance(nullptr);
+    }
+
+    void shouldShowFormEditsOnTheGridAndTheKeypadAndTheKeypadsToggleInTheForm()
+    {
+        const int key = emptyKey();
+        QVERIFY(key >= 0);
+        KeyItemGridView* grid = window->keyGrid();
+        grid->createNewAction(KAT_HOTKEY, key);
+        QTest::mouseClick(grid->keyButton(key), Qt::LeftButton);
+        auto* form = qobject_cast<HotkeyForm*>(window->formArea()->keyForm());
+        QVERIFY(form);
+        QCOMPARE(window->formArea()->functionDescription(), nullptr);
+
+        const QImage gridBefore = grid->keyButton(key)->pixmap(Qt::ReturnByValue).toImage();
+        QTest::keyClicks(form->titleField(), QStringLiteral("One"));
+        QTest::mouseClick(form->toggleBox(), Qt::LeftButton);
+        emit form->recorder(0)->chordChanged(chord(Qt::Key_1, '1'));
+        emit form->recorder(1)->chordChanged(chord(Qt::Key_2, '2'));
+        QTest::keyClicks(form->secondTitleField(), QStringLiteral("Two"));
+        const KeyItem* item = window->keyItemModel()->keyItemAt(key);
+        QVERIFY(item->multiFeatureFlag && item->isValid());
+        QCOMPARE(item->render[0].text, QStringLiteral("One"));
+        QCOMPARE(item->render[1].text, QStringLiteral("Two"));
+        QTRY_VERIFY_WITH_TIMEOUT(grid->keyButton(key)->pixmap(Qt::ReturnByValue).toImage() != gridBefore, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(keypadShows(key), 30000);
+        const QImage firstFace = keypadImage(key);
+
+        // The key on the keypad performs the first chord and turns to the second.
+        const QString firstNote = form->nextPressNote()->text();
+        pressOnKeypad(key);
+        QTRY_COMPARE_WITH_TIMEOUT(item->cfIdx, 1, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(form->nextPressNote()->text() != firstNote, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(keypadShows(key) && meanDifference(keypadImage(key), firstFace) > 1, 30000);
+        pressOnKeypad(key);
+        QTRY_COMPARE_WITH_TIMEOUT(item->cfIdx, 0, 30000);
+        // Ctrl+1, then Ctrl+2, each down and up.
+        QTRY_COMPARE_WITH_TIMEOUT(typedKeys(), QStringLiteral("v17 v49 ^49 ^17 v17 v50 ^50 ^17"), 30000);
+        QTRY_COMPARE_WITH_TIMEOUT(form->nextPressNote()->text(), firstNote, 30000);
+
+        // A palette entry replaces the form by its description.
+        window->actionList()->cancelPreviousAndThenSelectIcon(KAT_MACROKEY);
+        QCOMPARE(window->formArea()->keyForm(), nullptr);
+        QCOMPARE(window->formArea()->shownActionType(), int(KAT_MACROKEY));
+        QCOMPARE(grid->selectedKeyIdx(), -1);
+    }
+
+    // Every form fits the 400 pixel column without scrolling sideways; the
+    // column is kept in the build tree (tests/app/renders) to look at.
+    void shouldFitEveryFormIntoTheRightColumn_data()
+    {
+        QTest::addColumn<int>("type");
+        for (int type = KAT_FOLDER; type <= KAT_PASTE_STRING; ++type)
+            QTest::newRow(qPrintable(keyActionTypeToString(type))) << type;
+    }
+
+    void shouldFitEveryFormIntoTheRightColumn()
+    {
+        QFETCH(int, type);
+        const int key = emptyKey();
+        window->keyGrid()->createNewAction(type, key);
+        // A click on a selected folder would open it.
+        window->keyGrid()->cancelSelectedKeyButton(false);
+        QTest::mouseClick(window->keyGrid()->keyButton(key), Qt::LeftButton);
+        QCoreApplication::processEvents();
+        KeyItemForm* form = window->formArea()->keyForm();
+        QVERIFY(form);
+        if (auto* hotkey = qobject_cast<HotkeyForm*>(form))
+            hotkey->toggleBox()->setChecked(true);
+        auto* scroll = window->formArea()->findChild<QScrollArea*>(QStringLiteral("FormScroll"));
+        QVERIFY(scroll);
+        QCoreApplication::processEvents();
+        QVERIFY2(form->minimumSizeHint().width() <= scroll->viewport()->width(),
+                 qPrintable(
+                     QStringLiteral("%1 > %2").arg(form->minimumSizeHint().width()).arg(scroll->viewport()->width())));
+        QCOMPARE(form->width(), scroll->viewport()->width());
+        QVERIFY(window->rightColumn()->grab().save(renderDirectory() +
+                                                   QStringLiteral("/form_%1.png").arg(keyActionTypeToString(type))));
+    }
+};
+
+KEYSTAGE_TEST_MAIN(MainWindowFormsTest)
+#include "tst_mainwindowforms.moc"
