@@ -5,6 +5,7 @@
 #include "virtualkeytable.h"
 
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QToolButton>
@@ -35,7 +36,9 @@ HotkeyRecorder::HotkeyRecorder(QWidget* parent)
     connect(menu, &KeyPickerMenu::keyChosen, this, &HotkeyRecorder::chooseKey);
     m_pickButton->setMenu(menu);
     m_pickButton->setPopupMode(QToolButton::InstantPopup);
-    m_pickButton->setArrowType(Qt::DownArrow);
+    // The style sheet draws tool buttons flat, so the menu shows by an icon.
+    m_pickButton->setObjectName(QStringLiteral("KeyPickButton"));
+    m_pickButton->setIcon(QIcon(QStringLiteral(":/image/ctl_chevron_down.png")));
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -40,6 +40,9 @@ MacroEditor::MacroEditor(QWidget* parent)
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setTabKeyNavigation(false);
     m_view->horizontalHeader()->setSectionResizeMode(MacroStepModel::KeyColumn, QHeaderView::Stretch);
+    m_view->horizontalHeader()->setSectionResizeMode(MacroStepModel::DirectionColumn, QHeaderView::ResizeToContents);
+    m_view->verticalHeader()->hide();
+    m_view->setMinimumHeight(120);
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this, &MacroEditor::updateControls);
 
     QPushButton* insert = addButton(tr("Insert key…"), &MacroEditor::insertKey);
