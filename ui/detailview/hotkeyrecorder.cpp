@@ -1,5 +1,6 @@
 #include "hotkeyrecorder.h"
 
+#include "keycapture.h"
 #include "keymapping.h"
 #include "keypickermenu.h"
 #include "virtualkeytable.h"
@@ -24,7 +25,9 @@ HotkeyRecorder::HotkeyRecorder(QWidget* parent)
     // Enter arms the field as Space and a click do, also outside dialogs.
     m_field->setAutoDefault(true);
     m_field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    m_field->installEventFilter(this);
+    m_capture = new KeyCapture(
+        m_field, [this](const QKeyEvent& event) { onKeyPress(event); },
+        [this](const QKeyEvent& event) { onKeyRelease(event); }, [this] { stop(); });
     connect(m_field, &QPushButton::clicked, this, [this] {
         if (m_recording)
             cancelRecording();
@@ -75,7 +78,7 @@ void HotkeyRecorder::startRecording()
     m_refused = false;
     m_live = KeyChord();
     m_field->setFocus(Qt::OtherFocusReason);
-    m_field->grabKeyboard();
+    m_capture->start();
     showState();
     emit recordingChanged(true);
 }
@@ -89,7 +92,7 @@ void HotkeyRecorder::cancelRecording()
 void HotkeyRecorder::stop()
 {
     m_recording = false;
-    m_field->releaseKeyboard();
+    m_capture->stop();
     showState();
     emit recordingChanged(false);
 }
@@ -102,31 +105,6 @@ void HotkeyRecorder::finish(const KeyChord& chord)
     m_chord = chord;
     showState();
     emit chordChanged(m_chord);
-}
-
-bool HotkeyRecorder::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != m_field || !m_recording)
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        // Every key is ours while armed, none a shortcut of the window.
-        event->accept();
-        return true;
-    case QEvent::KeyPress:
-        onKeyPress(*static_cast<QKeyEvent*>(event));
-        return true;
-    case QEvent::KeyRelease:
-        onKeyRelease(*static_cast<QKeyEvent*>(event));
-        return true;
-    case QEvent::FocusOut:
-    case QEvent::Hide:
-        stop();
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void HotkeyRecorder::onKeyPress(const QKeyEvent& event)

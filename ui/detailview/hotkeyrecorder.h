@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class KeyCapture;
 class QKeyEvent;
 class QPushButton;
 class QToolButton;
@@ -36,7 +37,6 @@ signals:
     void recordingChanged(bool recording);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -53,5 +53,6 @@ private:
     KeyChord m_chord;
     KeyChord m_live; // the modifiers held while armed
     bool m_recording = false;
+    KeyCapture* m_capture = nullptr;
     bool m_refused = false; // the last key pressed cannot be typed
 };

@@ -2,6 +2,7 @@
 
 #include "addtextdialog.h"
 #include "insertkeydialog.h"
+#include "keycapture.h"
 #include "keymapping.h"
 #include "macrostepmodel.h"
 #include "stepbuilder.h"
@@ -28,7 +29,9 @@ MacroEditor::MacroEditor(QWidget* parent)
 {
     m_recordButton = addButton(tr("Record"), &MacroEditor::startRecording);
     m_stopButton = addButton(tr("Stop"), &MacroEditor::stopRecording);
-    m_stopButton->installEventFilter(this);
+    m_capture = new KeyCapture(
+        m_stopButton, [this](const QKeyEvent& event) { onKeyPress(event); },
+        [this](const QKeyEvent& event) { onKeyRelease(event); }, [this] { stopRecording(); });
     m_status->setWordWrap(true);
 
     auto* stepsLabel = new QLabel(tr("&Steps:"), this);
@@ -127,7 +130,7 @@ void MacroEditor::startRecording()
     // The Stop button holds the focus and the grab: losing the focus ends
     // the recording, and a click on it still works.
     m_stopButton->setFocus(Qt::OtherFocusReason);
-    m_stopButton->grabKeyboard();
+    m_capture->start();
 }
 
 void MacroEditor::stopRecording()
@@ -135,33 +138,9 @@ void MacroEditor::stopRecording()
     if (!m_recording)
         return;
     m_recording = false;
-    m_stopButton->releaseKeyboard();
+    m_capture->stop();
     updateControls();
     m_recordButton->setFocus(Qt::OtherFocusReason);
-}
-
-bool MacroEditor::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != m_stopButton || !m_recording)
-        return QWidget::eventFilter(watched, event);
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        event->accept();
-        return true;
-    case QEvent::KeyPress:
-        onKeyPress(*static_cast<QKeyEvent*>(event));
-        return true;
-    case QEvent::KeyRelease:
-        onKeyRelease(*static_cast<QKeyEvent*>(event));
-        return true;
-    case QEvent::FocusOut:
-    case QEvent::Hide:
-        stopRecording();
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void MacroEditor::onKeyPress(const QKeyEvent& event)

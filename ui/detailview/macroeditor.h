@@ -5,6 +5,7 @@
 #include <QList>
 #include <QWidget>
 
+class KeyCapture;
 class MacroStepModel;
 class QFrame;
 class QKeyEvent;
@@ -36,9 +37,6 @@ signals:
     // The user changed the steps (not setSteps).
     void stepsChanged(const QList<MarcoKeyItem>& steps);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QPushButton* addButton(const QString& text, void (MacroEditor::*slot)());
     void onKeyPress(const QKeyEvent& event);
@@ -68,6 +66,7 @@ private:
     QFrame* m_warning;
     QLabel* m_warningText;
     bool m_recording = false;
+    KeyCapture* m_capture = nullptr;
     QList<int> m_downKeys; // keys pressed during this recording, not yet released
     int m_skippedKeys = 0;
 };
