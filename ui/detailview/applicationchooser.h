@@ -1,27 +1,16 @@
 #pragma once
 
 #include "applicationentry.h"
-#include "keypadpause.h"
+#include "chooserdialog.h"
 #include "querycache.h"
 
-#include <QDialog>
-
-#include <memory>
-
-class ChooserSearchField;
-class QDialogButtonBox;
-class QLabel;
 class QListView;
-class QProgressBar;
-class QPushButton;
-class QSortFilterProxyModel;
-class QStandardItemModel;
 class QTabBar;
 
 // Picks an installed application (from the desktop's menus) or a running
 // one (from the desktop's windows): searchable as you type, Enter takes the
 // selected one, Esc cancels. The keypad is paused while it is shown.
-class ApplicationChooser : public QDialog
+class ApplicationChooser : public ChooserDialog
 {
     Q_OBJECT
 public:
@@ -41,31 +30,19 @@ public:
     Source currentSource() const;
     void setCurrentSource(Source source);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
 private:
     QueryCache::Query currentQuery() const;
     void showResult();
     void showBusy();
-    void applyFilter();
+    void refresh() override;
+    void applyFilter() override;
     void updateAcceptance();
 
-    QueryCache* m_cache;
     Sources m_sources;
     ApplicationList m_entries;
     bool m_runningAsked = false;
     QTabBar* m_tabs = nullptr;
-    ChooserSearchField* m_search = nullptr;
     QListView* m_list = nullptr;
-    QStandardItemModel* m_model = nullptr;
-    QSortFilterProxyModel* m_filter = nullptr;
-    QLabel* m_status = nullptr;
-    QProgressBar* m_busy = nullptr;
-    QPushButton* m_refresh = nullptr;
-    QDialogButtonBox* m_buttons = nullptr;
-    std::unique_ptr<KeypadPause> m_pause;
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(ApplicationChooser::Sources)
