@@ -3,6 +3,7 @@
 #include "hid_comm.h"
 #include "hotkeyform.h"
 #include "hotkeyrecorder.h"
+#include "imagecompare.h"
 #include "keychord.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
@@ -25,28 +26,6 @@
 #include <QSettings>
 
 namespace {
-
-double meanDifference(const QImage& a, const QImage& b)
-{
-    const QImage left = a.convertToFormat(QImage::Format_RGB32);
-    const QImage right = b.scaled(a.size()).convertToFormat(QImage::Format_RGB32);
-    double sum = 0;
-    for (int y = 0; y < left.height(); ++y) {
-        for (int x = 0; x < left.width(); ++x) {
-            const QRgb p = left.pixel(x, y);
-            const QRgb q = right.pixel(x, y);
-            sum += qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
-        }
-    }
-    return sum / (3.0 * left.width() * left.height());
-}
-
-QString renderDirectory()
-{
-    const QString dir = QCoreApplication::applicationDirPath() + QStringLiteral("/renders");
-    QDir().mkpath(dir);
-    return dir;
-}
 
 KeyChord chord(int qtKey, int virtualKey)
 {
@@ -83,7 +62,7 @@ private:
     {
         const QImage shown = keypadImage(key);
         const KeyItem* item = window->keyItemModel()->keyItemAt(key);
-        return item && !shown.isNull() && meanDifference(shown, KeyFaceRenderer::render(item)) < 12;
+        return item && !shown.isNull() && ImageCompare::meanDifference(shown, KeyFaceRenderer::render(item)) < 12;
     }
 
     int emptyKey() const
@@ -163,7 +142,8 @@ private slots:
         pressOnKeypad(key);
         QTRY_COMPARE_WITH_TIMEOUT(item->cfIdx, 1, 30000);
         QTRY_VERIFY_WITH_TIMEOUT(form->nextPressNote()->text() != firstNote, 30000);
-        QTRY_VERIFY_WITH_TIMEOUT(keypadShows(key) && meanDifference(keypadImage(key), firstFace) > 1, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(keypadShows(key) && ImageCompare::meanDifference(keypadImage(key), firstFace) > 1,
+                                 30000);
         pressOnKeypad(key);
         QTRY_COMPARE_WITH_TIMEOUT(item->cfIdx, 0, 30000);
         // Ctrl+1, then Ctrl+2, each down and up.
@@ -206,7 +186,7 @@ private slots:
                  qPrintable(
                      QStringLiteral("%1 > %2").arg(form->minimumSizeHint().width()).arg(scroll->viewport()->width())));
         QCOMPARE(form->width(), scroll->viewport()->width());
-        QVERIFY(window->rightColumn()->grab().save(renderDirectory() +
+        QVERIFY(window->rightColumn()->grab().save(ImageCompare::renderDirectory() +
                                                    QStringLiteral("/form_%1.png").arg(keyActionTypeToString(type))));
     }
 };

@@ -1,4 +1,5 @@
 #include "buttonlayoutconfig.h"
+#include "imagecompare.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemgridview.h"
@@ -27,31 +28,6 @@ int distinctColours(const QImage& image)
         for (int x = 0; x < small.width(); ++x)
             colours.insert(small.pixel(x, y));
     return colours.size();
-}
-
-// Mean difference per channel, 0..255: the same face drawn at another scale
-// stays within a few levels, another face does not.
-double meanDifference(const QImage& a, const QImage& b)
-{
-    const QImage left = a.convertToFormat(QImage::Format_RGB32);
-    const QImage right =
-        b.scaled(a.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
-    double sum = 0;
-    for (int y = 0; y < left.height(); ++y) {
-        for (int x = 0; x < left.width(); ++x) {
-            const QRgb p = left.pixel(x, y);
-            const QRgb q = right.pixel(x, y);
-            sum += qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
-        }
-    }
-    return sum / (3.0 * left.width() * left.height());
-}
-
-QString renderDirectory()
-{
-    const QString dir = QCoreApplication::applicationDirPath() + QStringLiteral("/renders");
-    QDir().mkpath(dir);
-    return dir;
 }
 
 } // namespace
@@ -103,7 +79,8 @@ private slots:
                 const QImage expected = KeyFaceRenderer::render(item);
                 QTRY_VERIFY2_WITH_TIMEOUT(
                     !keypadWindow->key(button)->pixmap(Qt::ReturnByValue).isNull() &&
-                        meanDifference(keypadWindow->key(button)->pixmap(Qt::ReturnByValue).toImage(), expected) < 12,
+                        ImageCompare::meanDifference(keypadWindow->key(button)->pixmap(Qt::ReturnByValue).toImage(),
+                                                     expected) < 12,
                     qPrintable(QStringLiteral("button %1").arg(button)), 30000);
             }
             QVERIFY(configured > 0);
@@ -115,8 +92,8 @@ private slots:
             const QImage editor = window.grab().toImage();
             const QImage keypadShot = keypadWindow->grab().toImage();
             const QString name = ButtonLayoutConfig::layoutName(layout);
-            QVERIFY(editor.save(renderDirectory() + QStringLiteral("/editor_%1.png").arg(name)));
-            QVERIFY(keypadShot.save(renderDirectory() + QStringLiteral("/keypad_%1.png").arg(name)));
+            QVERIFY(editor.save(ImageCompare::renderDirectory() + QStringLiteral("/editor_%1.png").arg(name)));
+            QVERIFY(keypadShot.save(ImageCompare::renderDirectory() + QStringLiteral("/keypad_%1.png").arg(name)));
             QVERIFY2(distinctColours(editor) > 200, qPrintable(QString::number(distinctColours(editor))));
             QVERIFY2(distinctColours(keypadShot) > 100, qPrintable(QString::number(distinctColours(keypadShot))));
             QCOMPARE(window.keyGrid()->keyButtonCount(), keys);

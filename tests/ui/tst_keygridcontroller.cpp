@@ -3,6 +3,7 @@
 #include "ka_paststring.h"
 #include "keygridcontroller.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -14,11 +15,6 @@
 
 namespace {
 
-KA_Folder* folderOf(const KeyItem* item)
-{
-    return item ? qobject_cast<KA_Folder*>(item->action[0]) : nullptr;
-}
-
 QString textOf(const KeyItem* item)
 {
     auto* text = item ? qobject_cast<KA_PastString*>(item->action[0]) : nullptr;
@@ -29,7 +25,7 @@ QString textOf(const KeyItem* item)
 std::unique_ptr<KeyItem> favoriteFolder(int layout, int count)
 {
     auto item = std::make_unique<KeyItem>(KAT_FOLDER, 0, layout);
-    QList<KeyItem*>& children = folderOf(item.get())->childList;
+    QList<KeyItem*>& children = KeyModelFixture::folderOf(item.get())->childList;
     for (int i = 0; i < count; ++i) {
         auto* child = new KeyItem(KAT_PASTE_STRING, i, layout);
         child->parent = item.get();
@@ -56,33 +52,14 @@ constexpr int NoHandler = -1;
 
 } // namespace
 
-class KeyGridControllerTest : public QObject
+class KeyGridControllerTest : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
-    std::unique_ptr<Settings> settings;
-    ButtonLayoutConfig layouts;
-    std::unique_ptr<KeyItemModel> model;
     std::unique_ptr<KeyGridController> controller;
     QStringList asked;
     QList<UserAnswer> answers;
     int favorites = 0;
-
-    KeyItem* put(int idx, KeyActionType type, const QString& text = QStringLiteral("text"))
-    {
-        model->createKeyAction(idx, type);
-        if (type == KAT_PASTE_STRING)
-            static_cast<KA_PastString*>(model->keyItemAt(idx)->action[0])->strText = text;
-        return model->keyItemAt(idx);
-    }
-
-    void open(int idx)
-    {
-        KA_Folder* folder = folderOf(model->keyItemAt(idx));
-        model->beginUpdate();
-        model->changeListHead(folder, &folder->childList);
-        model->endUpdate(true);
-    }
 
     // NoHandler: nobody installed to answer; otherwise the button answered.
     void answerWith(int answer, bool checked = false)
@@ -128,13 +105,7 @@ class KeyGridControllerTest : public QObject
 private slots:
     void init()
     {
-        QFile::remove(Settings().fileName());
-        settings = std::make_unique<Settings>();
-        layouts.changeLayout(V_Key_15);
-        model = std::make_unique<KeyItemModel>();
-        ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, model.get());
+        setUp();
         controller = std::make_unique<KeyGridController>();
         controller->setKeyCount(ButtonLayoutConfig::keyCount(V_Key_15));
         controller->setFavoriteInserter([this](const KeyItem*) { return ++favorites > 0; });
@@ -150,10 +121,8 @@ private slots:
     void cleanup()
     {
         controller.reset();
-        model.reset();
         UserQuestions::setHandler({});
-        ObjectRegistry::clear();
-        settings.reset();
+        tearDown();
     }
 
     void shouldNeverPutAFolderInsideAFolder_data()

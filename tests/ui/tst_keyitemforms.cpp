@@ -5,6 +5,7 @@
 #include "functiondescription.h"
 #include "hotkeyform.h"
 #include "hotkeyrecorder.h"
+#include "imagecompare.h"
 #include "ka_execute.h"
 #include "ka_folder.h"
 #include "ka_hotkey.h"
@@ -33,23 +34,6 @@
 namespace {
 
 constexpr int Key = 3;
-
-// Mean difference per channel, 0..255; the keypad's copy went through the
-// image encoding, so it is near the render, not equal.
-double meanDifference(const QImage& a, const QImage& b)
-{
-    const QImage left = a.convertToFormat(QImage::Format_RGB32);
-    const QImage right = b.scaled(a.size()).convertToFormat(QImage::Format_RGB32);
-    double sum = 0;
-    for (int y = 0; y < left.height(); ++y) {
-        for (int x = 0; x < left.width(); ++x) {
-            const QRgb p = left.pixel(x, y);
-            const QRgb q = right.pixel(x, y);
-            sum += qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
-        }
-    }
-    return sum / (3.0 * left.width() * left.height());
-}
 
 QString strippedText(const QString& text)
 {
@@ -98,7 +82,7 @@ private:
     bool keypadShowsItem() const
     {
         const QImage shown = keypadImage();
-        return !shown.isNull() && meanDifference(shown, KeyFaceRenderer::render(item())) < 12;
+        return !shown.isNull() && ImageCompare::meanDifference(shown, KeyFaceRenderer::render(item())) < 12;
     }
 
     // Records whether the keypad was paused while each dialog was open, and

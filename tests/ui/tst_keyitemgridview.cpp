@@ -5,6 +5,7 @@
 #include "keygridcontextmenu.h"
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -16,11 +17,6 @@
 #include <QSignalSpy>
 
 namespace {
-
-KA_Folder* folderOf(const KeyItem* item)
-{
-    return item ? qobject_cast<KA_Folder*>(item->action[0]) : nullptr;
-}
 
 // Rows of the data-driven tests; -1 stands for no item or no key.
 // layout, buttons, columns
@@ -42,33 +38,14 @@ Q_DECLARE_METATYPE(Hover)
 Q_DECLARE_METATYPE(MenuCase)
 Q_DECLARE_METATYPE(Shortcut)
 
-class KeyItemGridViewTest : public QObject
+class KeyItemGridViewTest : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
-    std::unique_ptr<Settings> settings;
-    ButtonLayoutConfig layouts;
-    std::unique_ptr<KeyItemModel> model;
     std::unique_ptr<QWidget> window; // the main window's stand-in
     KeyItemGridView* grid = nullptr;
     QStringList asked;
     int favorites = 0;
-
-    KeyItem* put(int idx, KeyActionType type, const QString& text = QStringLiteral("text"))
-    {
-        model->createKeyAction(idx, type);
-        if (type == KAT_PASTE_STRING)
-            static_cast<KA_PastString*>(model->keyItemAt(idx)->action[0])->strText = text;
-        return model->keyItemAt(idx);
-    }
-
-    void open(int idx)
-    {
-        KA_Folder* folder = folderOf(model->keyItemAt(idx));
-        model->beginUpdate();
-        model->changeListHead(folder, &folder->childList);
-        model->endUpdate(true);
-    }
 
     QPoint centre(int idx) const { return grid->keyButton(idx)->mapTo(grid, grid->keyButton(idx)->rect().center()); }
 
@@ -113,13 +90,7 @@ class KeyItemGridViewTest : public QObject
 private slots:
     void init()
     {
-        QFile::remove(Settings().fileName());
-        settings = std::make_unique<Settings>();
-        layouts.changeLayout(V_Key_15);
-        model = std::make_unique<KeyItemModel>();
-        ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, model.get());
+        setUp();
         window = std::make_unique<QWidget>();
         grid = new KeyItemGridView(window.get());
         connect(model.get(), &KeyItemModel::updateContent, grid, &KeyItemGridView::onUpdateContent);
@@ -135,10 +106,8 @@ private slots:
     void cleanup()
     {
         window.reset();
-        model.reset();
         UserQuestions::setHandler({});
-        ObjectRegistry::clear();
-        settings.reset();
+        tearDown();
     }
 
     void shouldBuildTheLayoutsButtonsRowByRow_data()

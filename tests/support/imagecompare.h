@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+class QImage;
+
+namespace ImageCompare {
+
+// Mean difference per channel, 0..255, with b scaled to a's size. Key images
+// that went through the keypad's encoding come back near the render, never
+// equal, so tests compare against a bound.
+double meanDifference(const QImage& a, const QImage& b);
+
+// Where a test keeps its renders for a person to look at, next to the test.
+QString renderDirectory();
+
+} // namespace ImageCompare
