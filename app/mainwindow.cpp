@@ -5,6 +5,7 @@
 #include "buttonlayoutconfig.h"
 #include "clicklabel.h"
 #include "dialog.h"
+#include "editorfocus.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
 #include "formarea.h"
@@ -141,6 +142,8 @@ void MainWindow::buildWindow()
     connect(m_titleBar->button(TitleBar::AboutButton), &ClickLabel::mouseClicked, this, &MainWindow::showAboutBox);
     connect(m_titleBar->button(TitleBar::MinimizeButton), &ClickLabel::mouseClicked, this, &QWidget::showMinimized);
     connect(m_titleBar->button(TitleBar::CloseButton), &ClickLabel::mouseClicked, this, &QWidget::close);
+    for (TitleBar::Button button : {TitleBar::AboutButton, TitleBar::MinimizeButton, TitleBar::CloseButton})
+        m_titleBar->button(button)->setFocusPolicy(Qt::TabFocus);
     frameLayout->addWidget(m_titleBar);
 
     // Title bar over [key panel with the status line below it | right column].
@@ -192,6 +195,7 @@ void MainWindow::buildEditor()
     column->addWidget(m_formArea, 3);
     column->addWidget(m_treeView, 2);
     m_layoutMenu = new LayoutMenu(this);
+    m_editorFocus = new EditorFocus({m_grid, m_actionList, m_formArea, m_treeView, m_titleBar}, this);
 
     connectEditor();
     m_grid->changeLayoutButtonView(KeyLayout(layoutConfig()->currentLayout()));
@@ -289,6 +293,9 @@ void MainWindow::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (!isMinimized())
         watchForegroundApplications(false);
+    // The keyboard starts on the keys (new window flags forget the focus).
+    if (!focusWidget())
+        m_grid->setFocus();
 }
 
 void MainWindow::changeEvent(QEvent* event)
@@ -317,6 +324,13 @@ void MainWindow::showKeypadStatus(int state)
         setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
         break;
     }
+}
+
+// Tab goes round the editor's parts in the order the user sees them, not in
+// the order their widgets were made.
+bool MainWindow::focusNextPrevChild(bool next)
+{
+    return (m_editorFocus && m_editorFocus->moveFocus(next)) || QWidget::focusNextPrevChild(next);
 }
 
 bool MainWindow::event(QEvent* event)
@@ -399,6 +413,7 @@ QWidget* MainWindow::rightColumn() const
 void MainWindow::setKeypadStatus(const QString& text, const QString& state)
 {
     m_statusLine->setText(text);
+    m_statusLine->setAccessibleName(tr("Keypad status: %1").arg(text));
     if (!state.isEmpty())
         WidgetLook::setStyleProperty(m_statusLine, "keypad", state);
 }

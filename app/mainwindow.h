@@ -9,6 +9,7 @@
 class ActionList;
 class AgentCore;
 class ButtonLayoutConfig;
+class EditorFocus;
 class FavoriteKeyItemModel;
 class FormArea;
 class IPC_Thread;
@@ -88,6 +89,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void createCore();
@@ -120,6 +122,7 @@ private:
     FormArea* m_formArea = nullptr;
     TreeView* m_treeView = nullptr;
     LayoutMenu* m_layoutMenu = nullptr;
+    EditorFocus* m_editorFocus = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
     VirtualKeypad* m_virtualKeypad = nullptr;

@@ -1,14 +1,18 @@
 #include "actionlist.h"
 
+#include "accessibility.h"
+#include "accessiblebutton.h"
 #include "logging.h"
 #include "widgetlook.h"
 
 #include <QCursor>
 #include <QDataStream>
 #include <QDrag>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QHoverEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -21,6 +25,7 @@ namespace {
 const char* const EntryImages[ActionList::EntryCount] = {"atn_folder", "atn_hotkey",  "atn_macro",
                                                          "atn_launch", "atn_website", "atn_textstring"};
 constexpr int LabelPadding = 4;
+constexpr char KeyboardFocusProperty[] = "keyboardFocus";
 
 } // namespace
 
@@ -29,6 +34,9 @@ ActionList::ActionList(QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("ActionList"));
     setAttribute(Qt::WA_StyledBackground);
     setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    Accessibility::install();
+    setAccessibleName(tr("Actions"));
     buildEntries();
 }
 
@@ -80,6 +88,7 @@ void ActionList::buildEntries()
         entry.label->setFixedSize(entry.iconSize + QSize(LabelPadding, LabelPadding));
         entry.label->setAlignment(Qt::AlignCenter);
         entry.label->setToolTip(actionName(i));
+        entry.label->setAccessibleName(actionName(i));
         // The palette itself handles the mouse, so presses, drags and hover
         // are seen in one coordinate system.
         entry.label->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -101,7 +110,10 @@ QPushButton* ActionList::makeButton(const char* objectName, const QString& image
     auto* button = new QPushButton(this);
     button->setObjectName(QLatin1String(objectName));
     button->setToolTip(toolTip);
-    button->setFocusPolicy(Qt::NoFocus);
+    button->setAccessibleName(toolTip);
+    // Reached with Tab, not taken by a click; Enter presses it as Space does.
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoDefault(true);
     const QPixmap pixmap(WidgetLook::imagePath(image));
     if (pixmap.isNull())
         button->setText(toolTip); // still usable without its picture
@@ -217,7 +229,9 @@ void ActionList::cancelSelectedIcon(bool emitSignal)
     if (m_selected < 0)
         return;
     showEntry(m_selected, false, "false");
+    const int previous = m_selected;
     m_selected = -1;
+    AccessibleButton::announceSelection(entryLabel(previous));
     if (emitSignal)
         emit actionItemSelected(-1);
 }
@@ -229,6 +243,10 @@ void ActionList::cancelPreviousAndThenSelectIcon(int idx)
     cancelSelectedIcon(false);
     showEntry(idx, true, "true");
     m_selected = idx;
+    AccessibleButton::announceSelection(entryLabel(idx));
+    // The keyboard goes on from the entry chosen.
+    m_keyboardIdx = idx;
+    updateFocusLook();
     emit actionItemSelected(idx);
 }
 
@@ -288,6 +306,8 @@ bool ActionList::showToolTip(QEvent* event)
 void ActionList::mousePressEvent(QMouseEvent* event)
 {
     m_leftPressed = event->button() == Qt::LeftButton;
+    m_focusVisible = false;
+    updateFocusLook();
     // Taken here, so that the window behind never starts moving itself.
     event->accept();
 }
@@ -318,5 +338,126 @@ void ActionList::mouseReleaseEvent(QMouseEvent* event)
         return;
     const int idx = entryAt(event->pos());
     if (idx >= 0 && idx != m_selected)
+        cancelPreviousAndThenSelectIcon(idx);
+}
+
+// ---- keyboard ----
+
+int ActionList::keyboardIndex() const
+{
+    return m_keyboardIdx;
+}
+
+QPushButton* ActionList::settingsButton() const
+{
+    return m_settingsButton;
+}
+
+QPushButton* ActionList::favoriteButton() const
+{
+    return m_favoriteButton;
+}
+
+void ActionList::keyPressEvent(QKeyEvent* event)
+{
+    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    m_focusVisible = true;
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        moveKeyboardIndex(m_keyboardIdx - 1);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        moveKeyboardIndex(m_keyboardIdx + 1);
+        break;
+    case Qt::Key_Home:
+        moveKeyboardIndex(0);
+        break;
+    case Qt::Key_End:
+        moveKeyboardIndex(m_entries.size() - 1);
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        if (!event->isAutoRepeat() && isEntryEnabled(m_keyboardIdx))
+            emit entryActivated(m_keyboardIdx);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    updateFocusLook();
+    event->accept();
+}
+
+void ActionList::moveKeyboardIndex(int idx)
+{
+    if (!isValidIndex(idx) || idx == m_keyboardIdx)
+        return;
+    m_keyboardIdx = idx;
+    updateFocusLook();
+    AccessibleButton::announceFocus(entryLabel(idx));
+}
+
+void ActionList::focusInEvent(QFocusEvent* event)
+{
+    // As on the key grid: the frame shows when the keyboard brought the focus.
+    if (event->reason() == Qt::MouseFocusReason)
+        m_focusVisible = false;
+    else if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+        m_focusVisible = QGuiApplication::mouseButtons() == Qt::NoButton;
+    updateFocusLook();
+    QMetaObject::invokeMethod(
+        this, [this] { AccessibleButton::announceFocus(hasFocus() ? entryLabel(m_keyboardIdx) : nullptr); },
+        Qt::QueuedConnection);
+    QWidget::focusInEvent(event);
+}
+
+void ActionList::focusOutEvent(QFocusEvent* event)
+{
+    updateFocusLook();
+    QWidget::focusOutEvent(event);
+}
+
+void ActionList::updateFocusLook()
+{
+    const bool shown = m_focusVisible && hasFocus();
+    for (const Entry& entry : qAsConst(m_entries))
+        WidgetLook::setStyleProperty(entry.label, KeyboardFocusProperty, shown && entry.index == m_keyboardIdx);
+}
+
+// ---- accessibility ----
+
+int ActionList::buttonIndexOf(const QWidget* widget) const
+{
+    for (const Entry& entry : m_entries) {
+        if (entry.label == widget)
+            return entry.index;
+    }
+    return -1;
+}
+
+QWidget* ActionList::buttonWidget(int idx) const
+{
+    return entryLabel(idx);
+}
+
+bool ActionList::isButtonSelected(int idx) const
+{
+    return idx >= 0 && idx == m_selected;
+}
+
+int ActionList::keyboardButton() const
+{
+    return m_keyboardIdx;
+}
+
+void ActionList::pressButton(int idx)
+{
+    if (isValidIndex(idx) && idx != m_selected)
         cancelPreviousAndThenSelectIcon(idx);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "buttonowner.h"
+
 #include <QPixmap>
 #include <QPoint>
 #include <QSize>
@@ -14,7 +16,12 @@ class QPushButton;
 // The palette above the key grid: one entry per action type the user can
 // create, dragged onto a key to make a new item there, plus the Settings and
 // My Favorite buttons. Selecting an entry makes the main window describe it.
-class ActionList : public QWidget
+//
+// From the keyboard the arrows move between the entries and Enter or Space
+// activates one (entryActivated): the main window drops it on the selected
+// key, or selects it when no key is. Each entry is an accessible button named
+// by its tool tip.
+class ActionList : public QWidget, public ButtonOwner
 {
     Q_OBJECT
 public:
@@ -49,12 +56,24 @@ public:
     bool isEntryEnabled(int idx) const;
     // The drag of an entry, ready to run; null for no or a disabled entry.
     QDrag* createDrag(int idx);
+    // The entry the keyboard is on.
+    int keyboardIndex() const;
+    QPushButton* settingsButton() const;
+    QPushButton* favoriteButton() const;
+
+    int buttonIndexOf(const QWidget* widget) const override;
+    QWidget* buttonWidget(int idx) const override;
+    bool isButtonSelected(int idx) const override;
+    int keyboardButton() const override;
+    void pressButton(int idx) override;
 
 signals:
     void actionItemSelected(int actionType);
     void favoriteActionItemSelected();
     void preferenceRequested();
     void favoriteWindowRequested();
+    // Enter or Space on an enabled entry.
+    void entryActivated(int actionType);
 
 public slots:
     void onFavoriteButtonMousePressed();
@@ -71,6 +90,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     // Runs the drag; separate so that a test can see the drag without a
     // window system running it.
     virtual Qt::DropAction execDrag(QDrag* drag);
@@ -82,6 +104,10 @@ private:
     void setFavoriteButtonState(const char* state);
     bool isValidIndex(int idx) const;
     bool showToolTip(QEvent* event);
+    void moveKeyboardIndex(int idx);
+    // The style sheet's focus frame on the keyboard's entry, while the
+    // focus came from the keyboard.
+    void updateFocusLook();
 
     QVector<Entry> m_entries;
     QPushButton* m_settingsButton = nullptr;
@@ -89,4 +115,6 @@ private:
     int m_selected = -1;
     int m_hovered = -1;
     bool m_leftPressed = false;
+    int m_keyboardIdx = 0;
+    bool m_focusVisible = false;
 };

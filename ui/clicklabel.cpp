@@ -1,10 +1,31 @@
 #include "clicklabel.h"
 
+#include "accessibility.h"
+
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 ClickLabel::ClickLabel(QWidget* parent) : QLabel(parent)
 {
+    Accessibility::install();
     setCursor(Qt::PointingHandCursor);
+}
+
+void ClickLabel::click()
+{
+    emit mouseClicked(this);
+}
+
+void ClickLabel::keyPressEvent(QKeyEvent* event)
+{
+    const bool activates =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (activates && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && !event->isAutoRepeat()) {
+        event->accept();
+        click();
+        return;
+    }
+    QLabel::keyPressEvent(event);
 }
 
 void ClickLabel::mousePressEvent(QMouseEvent* event)
@@ -20,11 +41,11 @@ void ClickLabel::mousePressEvent(QMouseEvent* event)
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     // Like a push button: the click counts only when released over the label.
-    const bool click = m_pressed && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    const bool released = m_pressed && event->button() == Qt::LeftButton && rect().contains(event->pos());
     m_pressed = false;
-    if (click) {
+    if (released) {
         event->accept();
-        emit mouseClicked(this);
+        click();
         return;
     }
     QLabel::mouseReleaseEvent(event);

@@ -1,5 +1,6 @@
 #include "formarea.h"
 
+#include "focuschain.h"
 #include "folderform.h"
 #include "functiondescription.h"
 #include "hotkeyform.h"
@@ -122,6 +123,16 @@ void FormArea::showKeyForm(int keyIdx)
     m_scroll->setWidget(m_form);
     m_scroll->verticalScrollBar()->setValue(0);
     m_scroll->show();
+}
+
+bool FormArea::focusFirstControl()
+{
+    const QVector<QWidget*> controls = FocusChain::controls(m_form);
+    if (controls.isEmpty())
+        return false;
+    controls.constFirst()->setFocus(Qt::TabFocusReason);
+    m_scroll->ensureWidgetVisible(controls.constFirst());
+    return true;
 }
 
 void FormArea::closeKeyForm()

@@ -34,6 +34,9 @@ public:
     // key already shown only reads it again.
     void showKeyForm(int keyIdx);
     KeyItemForm* keyForm() const;
+    // Gives the keyboard to the first control of the form shown; false when
+    // no form with controls is shown.
+    bool focusFirstControl();
     // Makes the form for an item's type; null for the back key and no type.
     static KeyItemForm* createForm(KeyItemModel* model, int keyIdx, QWidget* parent);
 

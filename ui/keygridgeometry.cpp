@@ -38,3 +38,15 @@ QVector<QRect> KeyGridGeometry::keyRects(int layout)
     }
     return rects;
 }
+
+int KeyGridGeometry::step(int layout, int idx, int dx, int dy)
+{
+    const QSize shape = gridShape(layout);
+    if (!shape.isValid() || idx < 0 || idx >= shape.width() * shape.height())
+        return -1;
+    const int column = idx % shape.width() + dx;
+    const int row = idx / shape.width() + dy;
+    if (column < 0 || column >= shape.width() || row < 0 || row >= shape.height())
+        return -1;
+    return row * shape.width() + column;
+}

@@ -23,6 +23,10 @@ public:
     // unknown layout.
     static QVector<QRect> keyRects(int layout);
 
+    // The key reached from idx by moving dx columns and dy rows; -1 off the
+    // grid or for an unknown layout.
+    static int step(int layout, int idx, int dx, int dy);
+
 private:
     static int spacing(const QSize& shape, const QSize& key, const QSize& panel);
 };

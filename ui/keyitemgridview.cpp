@@ -1,5 +1,8 @@
 #include "keyitemgridview.h"
 
+#include "accessibility.h"
+#include "accessiblebutton.h"
+#include "actionlist.h"
 #include "buttonlayoutconfig.h"
 #include "dragpayload.h"
 #include "keyfacerenderer.h"
@@ -14,6 +17,7 @@
 #include <QCursor>
 #include <QDrag>
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QHoverEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -28,6 +32,8 @@ constexpr char StateProperty[] = "state";
 constexpr char StateSelected[] = "true";
 constexpr char StateHovered[] = "hover";
 constexpr char StateNone[] = "false";
+// The style sheet's keyboard focus frame, on a key or on the whole grid.
+constexpr char KeyboardFocusProperty[] = "keyboardFocus";
 
 // Light enough to stand out on the black key background and on key images.
 // Light and neutral: selected and hovered keys both carry it, and the style
@@ -42,7 +48,10 @@ KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
     setObjectName(QStringLiteral("KeyItemGridView"));
     setAttribute(Qt::WA_Hover);
     setAcceptDrops(true);
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_StyledBackground); // the focus frame around the grid
+    Accessibility::install();
+    setAccessibleName(tr("Keys"));
     // The menu opens on the right button's release, after the key under it
     // was selected; all right-button events must reach this widget.
     setContextMenuPolicy(Qt::PreventContextMenu);
@@ -204,14 +213,16 @@ void KeyItemGridView::createKeyButtons(int layout)
     m_container->setGeometry(QRect(QPoint(), panel));
     for (const QRect& rect : KeyGridGeometry::keyRects(layout)) {
         auto* button = new QLabel(m_container);
+        // Listed first: showing it may already ask for its accessible state.
+        m_buttons.append(button);
         button->setObjectName(QStringLiteral("KeyButton"));
         button->setAlignment(Qt::AlignCenter);
         button->setGeometry(rect);
         button->setFixedSize(rect.size());
         button->show();
-        m_buttons.append(button);
         setKeyState(m_buttons.size() - 1, StateNone);
     }
+    updateFocusLook();
     m_controller->setKeyCount(m_buttons.size());
 }
 
@@ -275,6 +286,10 @@ void KeyItemGridView::showKey(int idx, const KeyItem* item, bool framed)
     // Faces are drawn as images (thread-safe); pixmaps only here.
     QPixmap face = QPixmap::fromImage(item ? KeyFaceRenderer::render(item) : KeyFaceRenderer::blankFace());
     setButtonIcon(idx, face, framed);
+    // Qt tells assistive technology of every new name, so only a changed one is set.
+    const QString name = keyAccessibleName(idx, item);
+    if (m_buttons.at(idx)->accessibleName() != name)
+        m_buttons.at(idx)->setAccessibleName(name);
 }
 
 void KeyItemGridView::redrawKey(int idx, bool framed)
@@ -354,6 +369,8 @@ void KeyItemGridView::cancelSelectedKeyButton(bool showFunctionDescription)
         m_selectedIdx = -1;
         redrawKey(previous, previous == m_hoveredIdx);
         setKeyState(previous, restingState(previous));
+        AccessibleButton::announceSelection(keyButton(previous));
+        updateFocusLook();
     }
     if (showFunctionDescription)
         emit buttonIdxChanged(-1);
@@ -367,6 +384,10 @@ void KeyItemGridView::cancelPreviousAndThenSelectKeyButton(int idx)
     m_selectedIdx = idx;
     redrawKey(idx, true);
     setKeyState(idx, StateSelected);
+    AccessibleButton::announceSelection(keyButton(idx));
+    updateFocusLook();
+    if (hasFocus())
+        AccessibleButton::announceFocus(keyButton(idx));
 }
 
 void KeyItemGridView::cancelHoveredKeyButton()
@@ -430,7 +451,8 @@ void KeyItemGridView::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) {
         m_pressPos = event->pos();
         m_pressed = true;
-        setFocus();
+        setFocusVisible(false);
+        setFocus(Qt::MouseFocusReason);
     }
     event->accept();
 }
@@ -498,7 +520,174 @@ void KeyItemGridView::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
+    if (navigate(event)) {
+        event->accept();
+        return;
+    }
     QWidget::keyPressEvent(event);
+}
+
+bool KeyItemGridView::navigate(QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const int key = event->key();
+    const bool menuKey = key == Qt::Key_Menu || (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
+    if (!menuKey && modifiers != Qt::NoModifier)
+        return false;
+    setFocusVisible(true);
+    switch (key) {
+    case Qt::Key_Left:
+        moveSelection(-1, 0);
+        return true;
+    case Qt::Key_Right:
+        moveSelection(1, 0);
+        return true;
+    case Qt::Key_Up:
+        moveSelection(0, -1);
+        return true;
+    case Qt::Key_Down:
+        moveSelection(0, 1);
+        return true;
+    case Qt::Key_Home:
+        selectAndAnnounce(0);
+        return true;
+    case Qt::Key_End:
+        selectAndAnnounce(m_buttons.size() - 1);
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        openOrEnterForm();
+        return true;
+    default:
+        break;
+    }
+    if (!menuKey)
+        return false;
+    if (QLabel* button = keyButton(m_selectedIdx))
+        showContextMenu(button->geometry().translated(m_container->pos()).center());
+    return true;
+}
+
+void KeyItemGridView::moveSelection(int dx, int dy)
+{
+    // Without a selection the first key is where the keyboard starts.
+    const int target = m_selectedIdx < 0 ? 0 : KeyGridGeometry::step(m_layout, m_selectedIdx, dx, dy);
+    if (keyButton(target) && target != m_selectedIdx)
+        selectAndAnnounce(target);
+}
+
+// What a second click does on a folder or back key, Enter does from the
+// keyboard; any other key has its settings in the form.
+void KeyItemGridView::openOrEnterForm()
+{
+    if (m_selectedIdx < 0)
+        return;
+    KeyItemModel* keyModel = model();
+    KeyItem* item = keyModel ? keyModel->keyItemAt(m_selectedIdx) : nullptr;
+    if (KeyGridController::opensPage(item))
+        m_controller->openPageOf(item);
+    else
+        emit formFocusWanted();
+}
+
+void KeyItemGridView::focusInEvent(QFocusEvent* event)
+{
+    // Focus that arrives while no mouse button is down came from the keyboard
+    // (Tab, Enter in the palette or the tree); a window or menu coming back
+    // leaves the frame as it was.
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::MouseFocusReason)
+        setFocusVisible(false);
+    else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        setFocusVisible(QGuiApplication::mouseButtons() == Qt::NoButton);
+    updateFocusLook();
+    // After Qt has announced the grid itself: the key is what has the focus.
+    QMetaObject::invokeMethod(this, &KeyItemGridView::announceKeyboardFocus, Qt::QueuedConnection);
+    QWidget::focusInEvent(event);
+}
+
+void KeyItemGridView::focusOutEvent(QFocusEvent* event)
+{
+    updateFocusLook();
+    QWidget::focusOutEvent(event);
+}
+
+void KeyItemGridView::setFocusVisible(bool visible)
+{
+    if (m_focusVisible == visible)
+        return;
+    m_focusVisible = visible;
+    updateFocusLook();
+}
+
+void KeyItemGridView::updateFocusLook()
+{
+    const bool shown = m_focusVisible && hasFocus();
+    WidgetLook::setStyleProperty(this, KeyboardFocusProperty, shown && !keyButton(m_selectedIdx));
+    for (int idx = 0; idx < m_buttons.size(); ++idx)
+        WidgetLook::setStyleProperty(m_buttons.at(idx), KeyboardFocusProperty, shown && idx == m_selectedIdx);
+}
+
+void KeyItemGridView::announceKeyboardFocus()
+{
+    if (hasFocus())
+        AccessibleButton::announceFocus(keyButton(m_selectedIdx));
+}
+
+// ---- accessibility ----
+
+QString KeyItemGridView::keyAccessibleName(int idx, const KeyItem* item)
+{
+    const int number = idx + 1;
+    if (!item || item->actionType == KAT_INVALID)
+        return tr("Key %1: empty").arg(number);
+    const QString type =
+        KeyGridController::isLinkType(item->actionType) ? tr("Back") : ActionList::actionName(item->actionType);
+    // A title may run over lines on the key; read out, it is one line.
+    const QString title = item->currentRender().text.simplified();
+    if (title.isEmpty())
+        return tr("Key %1: %2").arg(number).arg(type);
+    return tr("Key %1: %2, %3").arg(number).arg(title, type);
+}
+
+int KeyItemGridView::buttonIndexOf(const QWidget* widget) const
+{
+    for (int idx = 0; idx < m_buttons.size(); ++idx) {
+        if (m_buttons.at(idx) == widget)
+            return idx;
+    }
+    return -1;
+}
+
+QWidget* KeyItemGridView::buttonWidget(int idx) const
+{
+    return keyButton(idx);
+}
+
+bool KeyItemGridView::isButtonSelected(int idx) const
+{
+    return idx >= 0 && idx == m_selectedIdx;
+}
+
+int KeyItemGridView::keyboardButton() const
+{
+    return m_selectedIdx;
+}
+
+void KeyItemGridView::pressButton(int idx)
+{
+    if (keyButton(idx))
+        selectAndAnnounce(idx);
+}
+
+bool KeyItemGridView::dropActionOnSelectedKey(int actionType)
+{
+    if (m_selectedIdx < 0)
+        return false;
+    setFocusVisible(true);
+    emit closeFunctionDescription();
+    controller_dropKeyItemFromActionList(actionType, m_selectedIdx);
+    return true;
 }
 
 bool KeyItemGridView::triggerShortcut(int qtKey)
@@ -563,6 +752,7 @@ void KeyItemGridView::dragEnterEvent(QDragEnterEvent* event)
     event->accept();
     emit closeFunctionDescription();
     setFocus();
+    setFocusVisible(false);
 }
 
 void KeyItemGridView::dragMoveEvent(QDragMoveEvent* event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "buttonowner.h"
 #include "keyitem.h"
 #include "keylayout.h"
 
@@ -23,7 +24,12 @@ class QTimer;
 //
 // The model may notify from its key action thread: connect its updateContent
 // queued to onUpdateContent. A null item there means the whole page changed.
-class KeyItemGridView : public QWidget
+//
+// From the keyboard the selection is the cursor: the arrows move it by rows
+// and columns, Enter opens a folder or back key and otherwise asks for the
+// form (formFocusWanted), the Menu key and Shift+F10 open the context menu.
+// Each key is an accessible button "Key N: title, type".
+class KeyItemGridView : public QWidget, public ButtonOwner
 {
     Q_OBJECT
 public:
@@ -67,10 +73,24 @@ public:
     // Draws every key of the current page; empty keys black.
     void refreshAllKeys();
 
+    // "Key 3: Media, Folder", "Key 4: Hotkey", "Key 7: empty"; idx from 0.
+    static QString keyAccessibleName(int idx, const KeyItem* item);
+    // A palette entry's Enter: the action is dropped on the selected key as a
+    // drag would drop it. False when no key is selected.
+    bool dropActionOnSelectedKey(int actionType);
+
+    int buttonIndexOf(const QWidget* widget) const override;
+    QWidget* buttonWidget(int idx) const override;
+    bool isButtonSelected(int idx) const override;
+    int keyboardButton() const override;
+    void pressButton(int idx) override;
+
 signals:
     void buttonIdxChanged(KeyIdx idx);
     void dragItem();
     void closeFunctionDescription();
+    // Enter on a key that opens no page: the keyboard goes to its form.
+    void formFocusWanted();
 
 public slots:
     void changeLayoutButtonView(KeyLayout keyLayout);
@@ -108,6 +128,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
@@ -129,6 +151,14 @@ private:
     void announceIfSelected(int idx);
     void showContextMenu(const QPoint& pos);
     bool triggerShortcut(int qtKey);
+    bool navigate(QKeyEvent* event);
+    void moveSelection(int dx, int dy);
+    void openOrEnterForm();
+    void setFocusVisible(bool visible);
+    // The keyboard's place: the selected key framed, or the whole grid
+    // while none is; only while the focus came from the keyboard.
+    void updateFocusLook();
+    void announceKeyboardFocus();
     void startDrag(int idx, const QPoint& pressPos);
     void clearDragState();
     int menuKeyIdx() const;
@@ -145,6 +175,7 @@ private:
     QPoint m_pressPos;
     bool m_pressed = false;
     bool m_layoutChanging = false;
+    bool m_focusVisible = false;
     QTimer* m_dragHoverTimer = nullptr;
     KeyGridContextMenu* m_menu = nullptr;
     KeyGridController* m_controller = nullptr;

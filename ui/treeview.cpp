@@ -41,7 +41,9 @@ void TreeView::buildWidgets()
     m_home->setObjectName(QStringLiteral("pb_home"));
     m_home->setIcon(QIcon(WidgetLook::imagePath(QStringLiteral("icn_home"))));
     m_home->setIconSize(QSize(HomeIconSide, HomeIconSide));
-    m_home->setFocusPolicy(Qt::NoFocus);
+    // Reached with Tab, not taken by a click; Enter presses it as Space does.
+    m_home->setFocusPolicy(Qt::TabFocus);
+    m_home->setAutoDefault(true);
     layout->addWidget(m_home);
 
     m_tree = new QTreeWidget(this);
@@ -53,7 +55,8 @@ void TreeView::buildWidgets()
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
     m_tree->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_tree->setFocusPolicy(Qt::NoFocus);
+    m_tree->setFocusPolicy(Qt::TabFocus);
+    m_tree->setAccessibleName(tr("Folder tree"));
     m_delegate = new TreeViewItemDelegate(m_tree);
     m_tree->setItemDelegate(m_delegate);
     m_tree->viewport()->installEventFilter(this);
@@ -61,6 +64,8 @@ void TreeView::buildWidgets()
 
     connect(m_home, &QPushButton::clicked, this, &TreeView::on_pb_home_clicked);
     connect(m_tree, &QTreeWidget::pressed, this, &TreeView::on_treeWidget_pressed);
+    // Enter on the keyboard's row does what a press does.
+    connect(m_tree, &QTreeWidget::activated, this, &TreeView::on_treeWidget_pressed);
     connect(m_tree, &QTreeWidget::itemExpanded, this, &TreeView::on_treeWidget_itemExpanded);
     connect(m_tree, &QTreeWidget::itemCollapsed, this, &TreeView::on_treeWidget_itemCollapsed);
 }

@@ -14,6 +14,9 @@ const QColor RowFill(47, 58, 76);
 const QColor CurrentRowFill(89, 96, 110);
 // Used when the style gives no colour that reads on the dark rows.
 const QColor FallbackText(226, 230, 236);
+// The keyboard's row, in the colour of every keyboard focus frame.
+const QColor KeyboardFocusFrame(255, 196, 61);
+constexpr int KeyboardFocusWidth = 2;
 
 QColor textColor(const QStyleOptionViewItem& option)
 {
@@ -93,6 +96,12 @@ void TreeViewItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     painter->setPen(textColor(option));
     const QString text = option.fontMetrics.elidedText(displayText(item), Qt::ElideRight, textArea.width());
     painter->drawText(textArea, Qt::AlignLeft | Qt::AlignVCenter, text);
+    if (option.state & QStyle::State_HasFocus) {
+        painter->setPen(QPen(KeyboardFocusFrame, KeyboardFocusWidth));
+        painter->setBrush(Qt::NoBrush);
+        const int inset = KeyboardFocusWidth / 2;
+        painter->drawRect(row.adjusted(inset, inset, -inset - 1, -inset - 1));
+    }
     painter->restore();
 }
 
