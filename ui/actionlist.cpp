@@ -364,7 +364,6 @@ void ActionList::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
         return;
     }
-    m_focusVisible = true;
     switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Up:
@@ -390,6 +389,7 @@ void ActionList::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
         return;
     }
+    m_focusVisible = true;
     updateFocusLook();
     event->accept();
 }

@@ -549,10 +549,10 @@ bool KeyItemGridView::navigate(QKeyEvent* event)
         moveSelection(0, 1);
         return true;
     case Qt::Key_Home:
-        selectAndAnnounce(0);
+        moveSelectionTo(0);
         return true;
     case Qt::Key_End:
-        selectAndAnnounce(m_buttons.size() - 1);
+        moveSelectionTo(m_buttons.size() - 1);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -571,9 +571,13 @@ bool KeyItemGridView::navigate(QKeyEvent* event)
 void KeyItemGridView::moveSelection(int dx, int dy)
 {
     // Without a selection the first key is where the keyboard starts.
-    const int target = m_selectedIdx < 0 ? 0 : KeyGridGeometry::step(m_layout, m_selectedIdx, dx, dy);
-    if (keyButton(target) && target != m_selectedIdx)
-        selectAndAnnounce(target);
+    moveSelectionTo(m_selectedIdx < 0 ? 0 : KeyGridGeometry::step(m_layout, m_selectedIdx, dx, dy));
+}
+
+void KeyItemGridView::moveSelectionTo(int idx)
+{
+    if (keyButton(idx) && idx != m_selectedIdx)
+        selectAndAnnounce(idx);
 }
 
 // What a second click does on a folder or back key, Enter does from the

@@ -153,6 +153,7 @@ private:
     bool triggerShortcut(int qtKey);
     bool navigate(QKeyEvent* event);
     void moveSelection(int dx, int dy);
+    void moveSelectionTo(int idx);
     void openOrEnterForm();
     void setFocusVisible(bool visible);
     // The keyboard's place: the selected key framed, or the whole grid
