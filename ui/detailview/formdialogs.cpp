@@ -7,11 +7,21 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPointer>
 #include <QStandardPaths>
 
 namespace {
+
 FormDialogs::Runner g_runner;
+
+// A home without a pictures folder opens at home.
+QString picturesFolder()
+{
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
 } // namespace
 
 void FormDialogs::setRunner(const Runner& runner)
@@ -58,8 +68,7 @@ bool FormDialogs::chooseTitleStyle(QWidget* parent, const KeyRenderInfo& face, c
 QString FormDialogs::runFileDialog(QWidget* parent, FileKind kind)
 {
     if (kind == FileKind::Image)
-        return QFileDialog::getOpenFileName(parent, QObject::tr("Choose an image"),
-                                            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+        return QFileDialog::getOpenFileName(parent, QObject::tr("Choose an image"), picturesFolder(),
                                             QObject::tr("Images (%1)").arg(KeyIconImage::fileDialogPatterns()) +
                                                 QStringLiteral(";;") + QObject::tr("All files (*)"));
     if (kind == FileKind::Executable)
