@@ -20,7 +20,6 @@ public:
     // titleLabel: the caption of the title field, which names it.
     FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabel, QWidget* parent);
 
-    int slot() const { return m_slot; }
     QPlainTextEdit* titleField() const { return m_title; }
     QPushButton* styleButton() const { return m_style; }
     QLabel* iconPreview() const { return m_icon; }

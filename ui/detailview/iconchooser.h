@@ -42,11 +42,9 @@ public:
     // shown, when it cannot be read.
     bool useFile(const QString& path);
 
-    QTabWidget* tabs() const { return m_tabs; }
     IconGridPage* page(Source source) const;
     QPushButton* fileButton() const { return m_fileButton; }
     QLabel* fileStatus() const { return m_fileStatus; }
-    QLabel* preview() const { return m_preview; }
     QPushButton* okButton() const;
 
 private:

@@ -76,11 +76,6 @@ int IconGridPage::shownCount() const
     return m_filter->rowCount();
 }
 
-bool IconGridPage::hasCurrent() const
-{
-    return m_view->currentIndex().isValid();
-}
-
 QImage IconGridPage::currentImage() const
 {
     const QModelIndex current = m_view->currentIndex();

@@ -26,7 +26,6 @@ public:
     // The picture for userImg of the current entry; null when there is none.
     QImage currentImage() const;
     QString currentLabel() const;
-    bool hasCurrent() const;
 
     ChooserSearchField* searchField() const { return m_search; }
     QListView* view() const { return m_view; }

@@ -39,10 +39,8 @@ public:
     QCheckBox* boldBox() const { return m_bold; }
     QCheckBox* italicBox() const { return m_italic; }
     QCheckBox* underlineBox() const { return m_underline; }
-    QPushButton* colorButton() const { return m_color; }
     QAbstractButton* positionButton(int row, int column) const;
     QPushButton* resetButton() const { return m_reset; }
-    QLabel* facePreview() const { return m_facePreview; }
     QLabel* gridPreview() const { return m_gridPreview; }
 
     // The accessible names of the nine positions, row by row.
