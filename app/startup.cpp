@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "iconthemeindex.h"
 #include "instancecheck.h"
 #include "ipctoken.h"
 #include "keystageversion.h"
@@ -117,6 +118,7 @@ int Startup::run(int& argc, char** argv)
 
     registerModelMetaTypes();
     applyStyleSheet();
+    IconThemeIndex::applyFallbackTheme();
 
     // Declared before the window: it must outlive the device thread.
     const StartupKeypad virtualKeypad(flags.virtualKeypad);

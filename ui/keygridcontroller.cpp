@@ -3,12 +3,18 @@
 #include "buttonlayoutconfig.h"
 #include "ka_folder.h"
 #include "keyactionabstr.h"
+#include "keyiconimage.h"
+#include "keyitemeditor.h"
 #include "keyitemmodel.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "settings.h"
 #include "settingskeys.h"
 #include "userquestion.h"
+
+#include <QMimeData>
+#include <QMutexLocker>
+#include <QUrl>
 
 namespace {
 
@@ -387,4 +393,41 @@ void KeyGridController::followTreeItem(const KeyItem* item)
         changed = true;
     }
     keyModel->endUpdate(changed);
+}
+
+// ---- icons from files ----
+
+QString KeyGridController::droppedImageFile(const QMimeData* mime)
+{
+    if (!mime || !mime->hasUrls())
+        return QString();
+    for (const QUrl& url : mime->urls()) {
+        if (url.isLocalFile() && KeyIconImage::isImageFile(url.toLocalFile()))
+            return url.toLocalFile();
+    }
+    return QString();
+}
+
+bool KeyGridController::setIconFromFile(int idx, const QString& path)
+{
+    KeyItemModel* keyModel = model();
+    const KeyItem* item = keyModel && isKeyOnGrid(idx) ? keyModel->keyItemAt(idx) : nullptr;
+    if (!item || isLinkType(item->actionType)) {
+        LOG_MSG(QStringLiteral("no icon for this key! -> %1").arg(idx));
+        return false;
+    }
+    const QImage image = KeyIconImage::fromFile(path);
+    if (image.isNull())
+        return false;
+    int slot = 0;
+    {
+        // The keypad's thread flips a two-feature hotkey's slot.
+        QMutexLocker locker(keyModel->updateLock());
+        slot = item->cfIdx;
+    }
+    KeyItemEditor editor(keyModel, idx);
+    if (!editor.setIcon(slot, image))
+        return false;
+    emit keySelected(idx);
+    return true;
 }

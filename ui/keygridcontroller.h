@@ -6,6 +6,7 @@
 #include <functional>
 
 class KeyItemModel;
+class QMimeData;
 
 // The key grid's edit rules, without widgets: what a drop from the palette,
 // the grid or My Favorite does to a key, and cut, copy, paste, delete, reset,
@@ -67,6 +68,14 @@ public:
     bool openOnDragHover(int idx, bool draggingFolder);
     // Shows the page a folder tree entry stands for.
     void followTreeItem(const KeyItem* item);
+
+    // An image file dragged from a file manager: the first local file of a
+    // type Qt reads here; empty when the drag offers none.
+    static QString droppedImageFile(const QMimeData* mime);
+    // The picture of an image file becomes the icon of the face the key
+    // shows now. An empty key (no action to show it) and the back key are
+    // refused, as is a file that cannot be read; true when the icon was set.
+    bool setIconFromFile(int idx, const QString& path);
 
 signals:
     // The drop or creation target; the view selects it and tells the editor.

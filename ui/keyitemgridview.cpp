@@ -5,6 +5,7 @@
 #include "actionlist.h"
 #include "buttonlayoutconfig.h"
 #include "dragpayload.h"
+#include "keybuttonimage.h"
 #include "keyfacerenderer.h"
 #include "keygridcontextmenu.h"
 #include "keygridcontroller.h"
@@ -260,13 +261,8 @@ void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
     QLabel* button = keyButton(buttonIdx);
     if (!logMsgWhenRetFail(button != nullptr, QStringLiteral("button idx out of range: %1!!").arg(buttonIdx)))
         return;
-    const QSize size = ButtonLayoutConfig::iconSize(m_layout);
-    QPixmap composed(size);
-    composed.fill(Qt::black);
+    QPixmap composed = KeyButtonImage::compose(icon, ButtonLayoutConfig::iconSize(m_layout));
     QPainter painter(&composed);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (!icon.isNull())
-        painter.drawPixmap(composed.rect(), icon);
     if (selected) {
         // Inside the key's own square: the grid spacing stays the same and
         // the face's black margin takes the frame.
@@ -741,6 +737,15 @@ void KeyItemGridView::clearDragState()
 void KeyItemGridView::dragEnterEvent(QDragEnterEvent* event)
 {
     const DragPayload::Content content = DragPayload::read(event->mimeData(), event->source() != nullptr);
+    m_dragIsImageFile =
+        content.kind == DragPayload::None && !KeyGridController::droppedImageFile(event->mimeData()).isEmpty();
+    if (m_dragIsImageFile) {
+        // Copy: a file manager must never take a move as leave to delete the file.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        setFocus();
+        return;
+    }
     if (content.kind == DragPayload::None) {
         event->ignore();
         return;
@@ -767,6 +772,12 @@ void KeyItemGridView::dragMoveEvent(QDragMoveEvent* event)
         cancelSelectedKeyButton(false);
     else if (idx != m_selectedIdx)
         cancelPreviousAndThenSelectKeyButton(idx);
+    if (m_dragIsImageFile) {
+        // An icon is dropped onto a key as it is; hovering opens no folder.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        return;
+    }
     if (idx != m_dragHoverIdx) {
         m_dragHoverIdx = idx;
         if (idx >= 0)
@@ -790,6 +801,14 @@ void KeyItemGridView::dropEvent(QDropEvent* event)
 {
     clearDragState();
     const int idx = keyIdxAt(event->pos());
+    const QString imageFile = m_dragIsImageFile ? KeyGridController::droppedImageFile(event->mimeData()) : QString();
+    m_dragIsImageFile = false;
+    if (!imageFile.isEmpty()) {
+        m_controller->setIconFromFile(idx, imageFile);
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        return;
+    }
     const DragPayload::Content content =
         idx < 0 ? DragPayload::Content() : DragPayload::read(event->mimeData(), event->source() != nullptr);
     if (content.kind == DragPayload::None) {

@@ -172,6 +172,7 @@ private:
     int m_dragHoverIdx = -1;
     int m_dragSourceIdx = -1;
     bool m_dragIsFolder = false;
+    bool m_dragIsImageFile = false;
     QPoint m_dragPos;
     QPoint m_pressPos;
     bool m_pressed = false;

@@ -46,7 +46,8 @@ QString TreeViewItemDelegate::displayText(const KeyItem* item)
 {
     if (!item)
         return QString();
-    const QString title = item->currentRender().text;
+    // A title of two lines is one line here.
+    const QString title = item->currentRender().text.simplified();
     return title.isEmpty() ? ActionList::actionName(item->actionType) : title;
 }
 

@@ -1,5 +1,6 @@
 #include "bundledfonts.h"
 #include "facetitle.h"
+#include "imagecompare.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keylayout.h"
@@ -85,17 +86,6 @@ QRect boundsOf(const QImage& image, const std::function<bool(QRgb)>& accept)
             if (accept(rgb.pixel(x, y)))
                 bounds |= QRect(x, y, 1, 1);
     return bounds;
-}
-
-int largestChannelDelta(const QImage& a, const QImage& b)
-{
-    const QImage left = a.convertToFormat(QImage::Format_RGBA8888);
-    const QImage right = b.convertToFormat(QImage::Format_RGBA8888);
-    int largest = 0;
-    for (int y = 0; y < left.height(); ++y)
-        for (int i = 0; i < left.width() * 4; ++i)
-            largest = qMax(largest, qAbs(int(left.constScanLine(y)[i]) - int(right.constScanLine(y)[i])));
-    return largest;
 }
 
 // The faces kept as golden files: one of each look a user meets, and the
@@ -228,7 +218,7 @@ private slots:
         const QImage expected(goldenPath);
         QVERIFY2(!expected.isNull(), qPrintable(goldenPath + QStringLiteral(" is missing")));
         QCOMPARE(expected.size(), face.size());
-        const int delta = largestChannelDelta(face, expected);
+        const int delta = ImageCompare::largestChannelDelta(face, expected);
         QVERIFY2(delta <= GoldenTolerance, qPrintable(QStringLiteral("%1 differs by %2").arg(file).arg(delta)));
     }
 

@@ -20,6 +20,19 @@ double ImageCompare::meanDifference(const QImage& a, const QImage& b)
     return sum / (3.0 * left.width() * left.height());
 }
 
+int ImageCompare::largestChannelDelta(const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size())
+        return 256;
+    const QImage left = a.convertToFormat(QImage::Format_RGBA8888);
+    const QImage right = b.convertToFormat(QImage::Format_RGBA8888);
+    int largest = 0;
+    for (int y = 0; y < left.height(); ++y)
+        for (int i = 0; i < left.width() * 4; ++i)
+            largest = qMax(largest, qAbs(int(left.constScanLine(y)[i]) - int(right.constScanLine(y)[i])));
+    return largest;
+}
+
 QString ImageCompare::renderDirectory()
 {
     const QString dir = QCoreApplication::applicationDirPath() + QStringLiteral("/renders");

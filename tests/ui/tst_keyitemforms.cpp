@@ -251,7 +251,7 @@ private slots:
         item()->setTitle(0, QStringLiteral("Paint"));
         fixture.model->endUpdate(true, item());
         QTRY_COMPARE(form->commandField()->text(), QStringLiteral("gimp"));
-        QCOMPARE(form->titleField()->text(), QStringLiteral("Paint"));
+        QCOMPARE(form->titleField()->toPlainText(), QStringLiteral("Paint"));
 
         fixture.model->beginUpdate();
         fixture.model->deleteKeyItem(Key);
@@ -366,7 +366,7 @@ private slots:
         QVERIFY(form->useNameButton()->isVisible());
         QTest::mouseClick(form->useNameButton(), Qt::LeftButton);
         QCOMPARE(item()->render[0].text, QStringLiteral("Text Editor"));
-        QCOMPARE(form->titleField()->text(), QStringLiteral("Text Editor"));
+        QCOMPARE(form->titleField()->toPlainText(), QStringLiteral("Text Editor"));
         QVERIFY(!form->useNameButton()->isVisible());
     }
 

@@ -1,5 +1,6 @@
 #include "hotkeyform.h"
 
+#include "faceeditor.h"
 #include "hotkeyrecorder.h"
 #include "ka_hotkey.h"
 #include "keychord.h"
@@ -8,7 +9,6 @@
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(editor, tr("Hotkey"), parent)
@@ -28,10 +28,9 @@ HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     second->setSpacing(4);
     m_recorder[1] = new HotkeyRecorder(m_second);
     addField(tr("Second key combination"), m_recorder[1], second);
-    m_secondTitle = new QLineEdit(m_second);
-    m_secondTitle->setObjectName(QStringLiteral("SecondTitleField"));
-    m_secondTitle->setClearButtonEnabled(true);
-    addField(tr("Second title"), m_secondTitle, second);
+    m_secondFace = new FaceEditor(editor, 1, tr("Second title"), m_second);
+    second->addSpacing(4);
+    second->addWidget(m_secondFace);
     body()->addWidget(m_second);
     body()->addStretch(1);
 
@@ -42,8 +41,6 @@ HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
         this->editor()->setMultiFeature(on);
         refresh();
     });
-    connect(m_secondTitle, &QLineEdit::textEdited, this,
-            [this](const QString& text) { this->editor()->setTitle(1, text); });
 }
 
 HotkeyRecorder* HotkeyForm::recorder(int slot) const
@@ -56,9 +53,14 @@ QCheckBox* HotkeyForm::toggleBox() const
     return m_toggle;
 }
 
-QLineEdit* HotkeyForm::secondTitleField() const
+FaceEditor* HotkeyForm::secondFaceEditor() const
 {
-    return m_secondTitle;
+    return m_secondFace;
+}
+
+QPlainTextEdit* HotkeyForm::secondTitleField() const
+{
+    return m_secondFace->titleField();
 }
 
 QLabel* HotkeyForm::nextPressNote() const
@@ -83,7 +85,7 @@ void HotkeyForm::refreshFields(const KeyItem& item)
     const QSignalBlocker blocker(m_toggle);
     m_toggle->setChecked(item.multiFeatureFlag);
     m_second->setVisible(item.multiFeatureFlag);
-    setTextIfDifferent(m_secondTitle, titleOf(item, 1));
+    m_secondFace->refresh(item);
     m_nextPress->setVisible(item.multiFeatureFlag);
     m_nextPress->setText(item.cfIdx == 0 ? tr("The keypad shows the first hotkey now.")
                                          : tr("The keypad shows the second hotkey now."));

@@ -2,14 +2,15 @@
 
 #include "keyitemform.h"
 
+class FaceEditor;
 class HotkeyRecorder;
 class QCheckBox;
 class QLabel;
-class QLineEdit;
+class QPlainTextEdit;
 struct KeyChord;
 
 // A hotkey: one key chord, or two that the key performs in turn. The first
-// chord's title is the title at the top; the second has its own.
+// chord's face is the one at the top; the second has its own.
 class HotkeyForm : public KeyItemForm
 {
     Q_OBJECT
@@ -18,7 +19,8 @@ public:
 
     HotkeyRecorder* recorder(int slot) const;
     QCheckBox* toggleBox() const;
-    QLineEdit* secondTitleField() const;
+    FaceEditor* secondFaceEditor() const;
+    QPlainTextEdit* secondTitleField() const;
     // Which of the two the next press performs (the one the keypad shows).
     QLabel* nextPressNote() const;
 
@@ -31,6 +33,6 @@ private:
     HotkeyRecorder* m_recorder[2] = {nullptr, nullptr};
     QCheckBox* m_toggle = nullptr;
     QWidget* m_second = nullptr;
-    QLineEdit* m_secondTitle = nullptr;
+    FaceEditor* m_secondFace = nullptr;
     QLabel* m_nextPress = nullptr;
 };

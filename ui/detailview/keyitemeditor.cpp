@@ -9,6 +9,7 @@
 #include "keyitem.h"
 #include "keyitemmodel.h"
 #include "logging.h"
+#include "titlestyle.h"
 
 namespace {
 
@@ -153,4 +154,49 @@ bool KeyItemEditor::setFolderApplication(const QString& path)
 {
     return edit("folder application", actionType() == KAT_FOLDER,
                 [&path](KeyItem* item) { return assign(actionOf<KA_Folder>(item)->appName, path); });
+}
+
+bool KeyItemEditor::editFace(const char* what, int slot, bool valid, const std::function<bool(KeyRenderInfo&)>& change)
+{
+    const KeyActionType type = actionType();
+    return edit(what, valid && isSlot(slot) && type != KAT_LINK_BUTTON, [slot, &change](KeyItem* item) {
+        if (item->actionType == KAT_HOTKEY)
+            return change(item->render[slot]);
+        bool changed = false;
+        for (KeyRenderInfo& face : item->render)
+            changed |= change(face);
+        return changed;
+    });
+}
+
+bool KeyItemEditor::setTitleStyle(int slot, const TitleStyle& style)
+{
+    return editFace("title style", slot, true, [&style](KeyRenderInfo& face) {
+        if (style.isIn(face))
+            return false;
+        style.applyTo(face);
+        return true;
+    });
+}
+
+bool KeyItemEditor::setIcon(int slot, const QImage& image)
+{
+    // One pixmap for both slots: the settings store writes it once.
+    const QPixmap icon = QPixmap::fromImage(image);
+    return editFace("icon", slot, !image.isNull(), [&icon, &image](KeyRenderInfo& face) {
+        if (!face.userImg.isNull() && face.userImg.toImage() == image)
+            return false;
+        face.userImg = icon;
+        return true;
+    });
+}
+
+bool KeyItemEditor::clearIcon(int slot)
+{
+    return editFace("icon", slot, true, [](KeyRenderInfo& face) {
+        if (face.userImg.isNull())
+            return false;
+        face.userImg = QPixmap();
+        return true;
+    });
 }

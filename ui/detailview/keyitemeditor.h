@@ -3,6 +3,7 @@
 #include "keyactiontype.h"
 #include "marcokeyitem.h"
 
+#include <QImage>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -12,6 +13,8 @@
 class KeyItem;
 class KeyItemModel;
 struct KeyChord;
+struct KeyRenderInfo;
+struct TitleStyle;
 
 // The edits of one key's property form, without widgets. Each edit is one
 // update bracket of the key model, so the grid, the outline and the keypad
@@ -46,7 +49,19 @@ public:
     // The executable whose coming to the front opens the folder; empty: none.
     bool setFolderApplication(const QString& path);
 
+    // The face edits keep the set-title rule: a hotkey's slots have faces of
+    // their own, every other item shows the same face in both. The back key
+    // has no face to edit.
+    bool setTitleStyle(int slot, const TitleStyle& style);
+    // A picture made by KeyIconImage (key-sized, transparent around); a null
+    // image is refused.
+    bool setIcon(int slot, const QImage& image);
+    // Back to the type's default image.
+    bool clearIcon(int slot);
+
 private:
+    // change: applies the edit to one face, returns whether it changed it.
+    bool editFace(const char* what, int slot, bool valid, const std::function<bool(KeyRenderInfo&)>& change);
     // change: applies the edit to the item, returns whether anything changed.
     bool edit(const char* what, bool typeFits, const std::function<bool(KeyItem*)>& change);
     static bool isSlot(int slot);

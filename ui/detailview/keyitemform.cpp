@@ -1,5 +1,6 @@
 #include "keyitemform.h"
 
+#include "faceeditor.h"
 #include "keyitem.h"
 #include "keyitemeditor.h"
 
@@ -25,15 +26,8 @@ KeyItemForm::KeyItemForm(KeyItemEditor* editor, const QString& heading, QWidget*
     headingLabel->setObjectName(QStringLiteral("FormHeading"));
     m_body->addWidget(headingLabel);
 
-    m_title = new QLineEdit(this);
-    m_title->setObjectName(QStringLiteral("TitleField"));
-    m_title->setPlaceholderText(tr("Shown on the key"));
-    m_title->setClearButtonEnabled(true);
-    addField(tr("Title"), m_title);
-    connect(m_title, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (const KeyItem* item = m_editor->item())
-            m_editor->setTitle(titleSlot(*item), text);
-    });
+    m_face = new FaceEditor(editor, 0, tr("Title"), this);
+    m_body->addWidget(m_face);
 }
 
 KeyItemEditor* KeyItemForm::editor() const
@@ -41,9 +35,14 @@ KeyItemEditor* KeyItemForm::editor() const
     return m_editor;
 }
 
-QLineEdit* KeyItemForm::titleField() const
+FaceEditor* KeyItemForm::faceEditor() const
 {
-    return m_title;
+    return m_face;
+}
+
+QPlainTextEdit* KeyItemForm::titleField() const
+{
+    return m_face->titleField();
 }
 
 QVBoxLayout* KeyItemForm::body() const
@@ -56,14 +55,9 @@ bool KeyItemForm::refresh()
     const KeyItem* item = m_editor->item();
     if (!item)
         return false;
-    setTextIfDifferent(m_title, titleOf(*item, titleSlot(*item)));
+    m_face->refresh(*item);
     refreshFields(*item);
     return true;
-}
-
-int KeyItemForm::titleSlot(const KeyItem&) const
-{
-    return 0;
 }
 
 QString KeyItemForm::titleOf(const KeyItem& item, int slot)

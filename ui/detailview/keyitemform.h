@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class FaceEditor;
 class KeyItem;
 class KeyItemEditor;
 class QLabel;
@@ -9,8 +10,8 @@ class QLineEdit;
 class QPlainTextEdit;
 class QVBoxLayout;
 
-// The property form of one key: its type's heading, the key's title at the
-// top, then the type's own fields. Every edit goes through the form's
+// The property form of one key: its type's heading, the face of the first
+// slot (title, style, icon) at the top, then the type's own fields. Every edit goes through the form's
 // KeyItemEditor at once; there is no OK. refresh() reads the model back after
 // a change from elsewhere (the keypad toggling a hotkey, a paste, a drop);
 // what the user is typing is left alone as long as it is what the model holds.
@@ -21,7 +22,8 @@ public:
     KeyItemForm(KeyItemEditor* editor, const QString& heading, QWidget* parent);
 
     KeyItemEditor* editor() const;
-    QLineEdit* titleField() const;
+    FaceEditor* faceEditor() const;
+    QPlainTextEdit* titleField() const;
     // False once the key went away; the form shows nothing new then.
     bool refresh();
 
@@ -36,8 +38,6 @@ protected:
     QLabel* addField(const QString& label, QWidget* control, QVBoxLayout* into = nullptr);
     // Muted text under a control: what happens, what is missing.
     QLabel* addNote(const QString& text);
-    // The title slot the top field edits.
-    virtual int titleSlot(const KeyItem& item) const;
     virtual void refreshFields(const KeyItem& item) = 0;
 
     // The item's title of a slot.
@@ -46,5 +46,5 @@ protected:
 private:
     KeyItemEditor* m_editor;
     QVBoxLayout* m_body = nullptr;
-    QLineEdit* m_title = nullptr;
+    FaceEditor* m_face = nullptr;
 };
