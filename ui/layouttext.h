@@ -7,6 +7,8 @@ namespace LayoutText {
 
 // "15 keys, vertical"; empty for an invalid layout.
 QString describe(int layout);
+// Held with more rows than columns.
+bool isVertical(int layout);
 // "6 keys", "15 keys", "32 keys".
 QString keys(int keyCount);
 

@@ -45,7 +45,8 @@ QString ConfigurationBackup::folderName(const QDateTime& when)
 
 QString ConfigurationBackup::layoutFileName(int layout)
 {
-    return LayoutText::describe(layout) + QStringLiteral(".kslayout");
+    const QString orientation = LayoutText::isVertical(layout) ? tr("vertical") : tr("horizontal");
+    return tr("Layout %1 keys %2").arg(KeypadTable::keyCount(layout)).arg(orientation) + QStringLiteral(".kslayout");
 }
 
 QString ConfigurationBackup::favoritesFileName()

@@ -31,7 +31,7 @@ public:
 
     // "Keystage backup 2026-11-23 14-05"
     static QString folderName(const QDateTime& when);
-    // "15 keys, vertical.kslayout"
+    // "Layout 15 keys vertical.kslayout"
     static QString layoutFileName(int layout);
     static QString favoritesFileName();
 };

@@ -3,7 +3,6 @@
 #include "buttonlayoutconfig.h"
 #include "configurationbackup.h"
 #include "keyitemmodel.h"
-#include "layouttext.h"
 #include "logging.h"
 #include "preferencefiles.h"
 #include "preferencelook.h"
@@ -75,13 +74,13 @@ QPushButton* ImportExportPage::addAction(QGridLayout* grid, const QString& text,
 QString ImportExportPage::documentsFolder()
 {
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return documents.isEmpty() ? QDir::homePath() : documents;
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 void ImportExportPage::flushEdits()
 {
     if (m_context.keyModel)
-        m_context.keyModel->flushPendingSave();
+        m_context.keyModel->saveCurrentKeyItemsToSettings();
 }
 
 QString ImportExportPage::exportTo(const QString& caption, const QString& suggestedName, const QString& filter,
@@ -97,7 +96,7 @@ QString ImportExportPage::exportTo(const QString& caption, const QString& sugges
 void ImportExportPage::exportLayout()
 {
     const int layout = m_context.layouts ? m_context.layouts->currentLayout() : -1;
-    const QString path = exportTo(tr("Export layout"), LayoutText::describe(layout) + QLatin1Char('.') + LayoutSuffix,
+    const QString path = exportTo(tr("Export layout"), ConfigurationBackup::layoutFileName(layout),
                                   tr("Keystage layout (*.kslayout)"), LayoutSuffix);
     if (path.isEmpty())
         return;
@@ -141,7 +140,8 @@ void ImportExportPage::backUpEverything()
     flushEdits();
     const ConfigurationBackup::Result result = ConfigurationBackup::write(*m_context.store, parent);
     if (result.ok)
-        report(tr("%n file(s) were written to %1.", nullptr, result.files.size())
+        // At least two: a layout and My Favorite.
+        report(tr("%n files were written to %1.", nullptr, result.files.size())
                    .arg(QDir::toNativeSeparators(result.folder)));
     else
         report(tr("The backup failed. %1").arg(result.error), true);

@@ -32,7 +32,8 @@ public slots:
 
 private:
     QPushButton* addAction(QGridLayout* grid, const QString& text, const QString& explanation);
-    // The key model's edits of the last second reach the tree first.
+    // The key model's edits of the last second reach the tree first (its
+    // own save waits a second).
     void flushEdits();
     QString exportTo(const QString& caption, const QString& suggestedName, const QString& filter,
                      const QString& suffix);

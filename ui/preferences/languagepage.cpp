@@ -46,7 +46,11 @@ LanguagePage::LanguagePage(const PreferenceContext& context, QWidget* parent)
         }
     }
     m_list->setCurrentRow(current);
-    m_list->setMaximumHeight(m_list->sizeHintForRow(0) * (LanguageCount + 1));
+    // All six rows, no scroll bar: the row height is the style sheet's.
+    m_list->ensurePolished();
+    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const QMargins margins = m_list->contentsMargins();
+    m_list->setFixedHeight(m_list->sizeHintForRow(0) * LanguageCount + margins.top() + margins.bottom() + 8);
     layout->addWidget(m_list);
 
     m_apply = new QPushButton(tr("Use this language"), this);

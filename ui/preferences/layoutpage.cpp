@@ -37,7 +37,7 @@ LayoutPage::LayoutPage(const PreferenceContext& context, QWidget* parent) : Pref
     sizes->setSpacing(12);
     for (int keys : KeyCounts) {
         auto* button = new QToolButton(this);
-        button->setObjectName(QStringLiteral("LayoutSize%1").arg(keys));
+        button->setObjectName(QStringLiteral("LayoutSizeButton"));
         button->setText(LayoutText::keys(keys));
         button->setAccessibleName(button->text());
         button->setIcon(QIcon(WidgetLook::imagePath(QStringLiteral("icn_layout%1").arg(keys))));
@@ -80,16 +80,10 @@ QString LayoutPage::title() const
 int LayoutPage::layoutFor(int keyCount, bool vertical)
 {
     for (int layout = 0; layout < KeypadTable::LayoutCount; ++layout) {
-        if (KeypadTable::keyCount(layout) == keyCount && isVertical(layout) == vertical)
+        if (KeypadTable::keyCount(layout) == keyCount && LayoutText::isVertical(layout) == vertical)
             return layout;
     }
     return -1;
-}
-
-bool LayoutPage::isVertical(int layout)
-{
-    const QSize shape = KeypadTable::gridShape(layout);
-    return shape.height() > shape.width();
 }
 
 void LayoutPage::showLayout(int layout)
@@ -98,7 +92,7 @@ void LayoutPage::showLayout(int layout)
     const QSignalBlocker orientations(m_orientations);
     if (QAbstractButton* size = m_sizes->button(KeypadTable::keyCount(layout)))
         size->setChecked(true);
-    (isVertical(layout) ? m_vertical : m_horizontal)->setChecked(true);
+    (LayoutText::isVertical(layout) ? m_vertical : m_horizontal)->setChecked(true);
 }
 
 void LayoutPage::choose()

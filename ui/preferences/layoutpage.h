@@ -23,7 +23,6 @@ public:
 
     // The layout of a size (6, 15 or 32 keys) held one way; -1 if none.
     static int layoutFor(int keyCount, bool vertical);
-    static bool isVertical(int layout);
 
     QToolButton* sizeButton(int keyCount) const;
     QRadioButton* horizontalButton() const;

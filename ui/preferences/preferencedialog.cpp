@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -56,6 +57,27 @@ PreferenceDialog::PreferenceDialog(QWidget* parent) : QDialog(parent)
 
     resize(780, 560);
     m_list->setFocus();
+    if (parent)
+        parent->installEventFilter(this);
+}
+
+// The main window hides and shows itself again to change its size (a new
+// layout, chosen here), and some window managers then stack it above its
+// own dialog: the dialog comes back on top, after the window's map request.
+bool PreferenceDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent() && isVisible()) {
+        if (event->type() == QEvent::Hide) {
+            m_activeWhenParentHid = isActiveWindow();
+        } else if (event->type() == QEvent::Show) {
+            QTimer::singleShot(0, this, [this] {
+                raise();
+                if (m_activeWhenParentHid)
+                    activateWindow();
+            });
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void PreferenceDialog::addPage(PreferencePage* page)

@@ -43,8 +43,12 @@ public slots:
     // Every way of closing ends here.
     void done(int result) override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QListWidget* m_list = nullptr;
     QStackedWidget* m_stack = nullptr;
     QPushButton* m_close = nullptr;
+    bool m_activeWhenParentHid = false;
 };

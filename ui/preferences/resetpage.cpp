@@ -57,8 +57,8 @@ bool ResetPage::resetAllKeys()
         return false;
     LOG_MSG(QStringLiteral("reset the keys of every layout"));
     m_context.keyModel->resetKeyItemsToDefault();
-    // Written now rather than a second later: the user expects a reset to stick.
-    m_context.keyModel->flushPendingSave();
+    // Written now rather than a second later: a reset must stick.
+    m_context.keyModel->saveCurrentKeyItemsToSettings();
     PreferenceLook::setStatus(m_status, tr("Every layout has its default keys again."));
     return true;
 }
