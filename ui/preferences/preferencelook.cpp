@@ -14,6 +14,8 @@ QVBoxLayout* pageLayout(QWidget* page, const QString& heading)
     layout->setSpacing(10);
     auto* title = new QLabel(heading, page);
     title->setObjectName(QStringLiteral("PreferenceHeading"));
+    // The style sheet's padding counts as a frame, which would indent the text.
+    title->setIndent(0);
     layout->addWidget(title);
     return layout;
 }
@@ -22,6 +24,7 @@ QLabel* section(const QString& text, QWidget* parent)
 {
     auto* label = new QLabel(text, parent);
     label->setObjectName(QStringLiteral("PreferenceSection"));
+    label->setIndent(0);
     return label;
 }
 
