@@ -74,7 +74,10 @@ void AgentCore::createDevice()
             Qt::DirectConnection);
 
     m_keypadStatus = new KeypadStatus(m_hidComm.get(), this);
-    connect(m_keypadStatus, &KeypadStatus::keypadOpened, this, [] { UpdateDevIcon::updateAllIcon(); });
+    connect(m_keypadStatus, &KeypadStatus::keypadOpened, this, [this] {
+        applyBrightness();
+        UpdateDevIcon::updateAllIcon();
+    });
 
     m_keypadMonitor = new KeypadMonitor(keypadUsbIds(), this);
     connect(m_keypadMonitor, &KeypadMonitor::keypadArrived, m_hidComm.get(), &Hid_Comm::onKeyboardWasAdded);
@@ -130,6 +133,17 @@ void AgentCore::onButtonLayoutChanged(int layout)
     m_keyItemModel->changeLayoutButtonView(KeyLayout(layout));
     m_store->setValue(SettingsKeys::LastKbLayout, layout);
     LOG_MSG(QStringLiteral("layout: %1").arg(ButtonLayoutConfig::layoutName(layout)));
+}
+
+// Every keypad that connects takes the brightness the user chose.
+void AgentCore::applyBrightness()
+{
+    if (!m_hidComm)
+        return;
+    const int level = qBound(SettingsKeys::BrightnessMin,
+                             m_store->value(SettingsKeys::Brightness, SettingsKeys::BrightnessDefault).toInt(),
+                             SettingsKeys::BrightnessMax);
+    m_hidComm->setBacklight(level);
 }
 
 // A null item stands for the whole page (a folder opened, a layout change).

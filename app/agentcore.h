@@ -61,6 +61,7 @@ private:
     void createRuntime();
     void onButtonLayoutChanged(int layout);
     void onModelContentChanged(const KeyItem* item);
+    void applyBrightness();
 
     std::unique_ptr<WindowSystem> m_windowSystem;
     Settings* m_store = nullptr;

@@ -17,14 +17,17 @@
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
 #include "keypadstatus.h"
-#include "layoutmenu.h"
 #include "logging.h"
 #include "objectregistry.h"
+#include "preferencecontext.h"
+#include "preferencelauncher.h"
 #include "settings.h"
+#include "startupflags.h"
 #include "terminationsignals.h"
 #include "titlebar.h"
 #include "trayicon.h"
 #include "treeview.h"
+#include "updatedevicon.h"
 #include "virtualkey.h"
 #include "virtualkeypad.h"
 #include "widgetlook.h"
@@ -32,7 +35,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QCursor>
 #include <QDebug>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -40,6 +42,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QSettings>
 #include <QShowEvent>
 #include <QTimer>
@@ -73,6 +76,7 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     connectCore();
     setupTray();
     setupVirtualKeypad();
+    setupPreferences();
 
     m_terminationSignals = new TerminationSignals(this);
     connect(m_terminationSignals, &TerminationSignals::terminationRequested, this, [this](int signalNumber) {
@@ -194,12 +198,10 @@ void MainWindow::buildEditor()
     column->addWidget(m_actionList);
     column->addWidget(m_formArea, 3);
     column->addWidget(m_treeView, 2);
-    m_layoutMenu = new LayoutMenu(this);
     m_editorFocus = new EditorFocus({m_grid, m_actionList, m_formArea, m_treeView, m_titleBar}, this);
 
     connectEditor();
     m_grid->changeLayoutButtonView(KeyLayout(layoutConfig()->currentLayout()));
-    m_layoutMenu->setCurrentLayout(layoutConfig()->currentLayout());
     m_treeView->onUpdateContent(nullptr);
     showFunctionDescription(FormArea::NoDescription, false);
 }
@@ -222,8 +224,6 @@ void MainWindow::connectEditor()
         },
         Qt::QueuedConnection);
     connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, m_grid, &KeyItemGridView::changeLayoutButtonView);
-    connect(layouts, &ButtonLayoutConfig::buttonLayoutChanged, m_layoutMenu,
-            [this](KeyLayout layout) { m_layoutMenu->setCurrentLayout(layout); });
 
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, m_treeView, &TreeView::onButtonIdxChanged);
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, m_actionList, &ActionList::onButtonViewIndexChanged);
@@ -236,10 +236,8 @@ void MainWindow::connectEditor()
         if (actionType >= 0)
             showFunctionDescription(actionType, true);
     });
-    connect(m_actionList, &ActionList::preferenceRequested, this, [this] { m_layoutMenu->popup(QCursor::pos()); });
     connect(m_actionList, &ActionList::favoriteWindowRequested, this,
             [] { LOG_MSG(QStringLiteral("My Favorite window requested")); });
-    connect(m_layoutMenu, &LayoutMenu::layoutChosen, layouts, &ButtonLayoutConfig::changeLayout);
 }
 
 // What the core does shows in the editor: faces flipped from the keypad, the
@@ -393,6 +391,30 @@ void MainWindow::setupVirtualKeypad()
     connect(m_virtualKeypad, &VirtualKeypad::activeChanged, m_tray, &TrayIcon::setVirtualKeypadChecked);
 }
 
+// The preference dialog works on the core's objects and, for importing and
+// restarting, on this window; the palette's Settings and the tray open it.
+void MainWindow::setupPreferences()
+{
+    PreferenceContext context;
+    context.store = m_core->settingsStore();
+    context.startupSettings = m_settings;
+    context.layouts = layoutConfig();
+    context.keyModel = keyItemModel();
+    context.hid = m_core->hidComm();
+    context.runInBackground = BackgroundTask::onTaskProxy(m_core->taskProxy());
+    context.redrawKeypad = [] { UpdateDevIcon::updateAllIcon(); };
+    context.importFile = [this](const QString& path) { openExtensionFile(path); };
+    context.restart = [this] { restartApplication(); };
+    m_preferences = new PreferenceLauncher(context, this);
+    connect(m_actionList, &ActionList::preferenceRequested, m_preferences, &PreferenceLauncher::open);
+    connect(m_tray, &TrayIcon::settingsRequested, m_preferences, &PreferenceLauncher::open);
+}
+
+PreferenceLauncher* MainWindow::preferences() const
+{
+    return m_preferences;
+}
+
 void MainWindow::setKeyPanelSize(const QSize& size)
 {
     m_keyPanel->setFixedSize(size);
@@ -541,8 +563,18 @@ void MainWindow::quitApplication()
 {
     if (m_quitting)
         return;
+    // A page may be running something that must not be cut short.
+    QString why;
+    if (m_preferences && !m_preferences->canClose(why)) {
+        LOG_MSG(QStringLiteral("quit refused: %1").arg(why));
+        m_restartFlag = false;
+        tellUser(tr("%1 cannot quit now.").arg(QCoreApplication::applicationName()), why);
+        return;
+    }
     m_quitting = true;
     LOG_MSG(QStringLiteral("quit requested"));
+    if (m_preferences)
+        m_preferences->closeNow();
     stopThreads();
     keyItemModel()->flushPendingSave();
     if (m_settings)
@@ -554,6 +586,8 @@ void MainWindow::quitApplication()
 
 void MainWindow::restartApplication()
 {
+    m_restartInBackground = !isVisible() || isMinimized();
+    m_restartWithVirtualKeypad = m_virtualKeypad && m_virtualKeypad->isActive();
     setRestartFlag(true);
     quitApplication();
 }
@@ -596,7 +630,17 @@ void MainWindow::stopThreads()
 
 void MainWindow::startRestartedInstance()
 {
-    const QString program = QCoreApplication::applicationFilePath();
-    if (!QProcess::startDetached(program, {QStringLiteral("--waitInst")}))
-        qWarning().noquote() << "Could not restart" << program;
+    QProcess process;
+    process.setProgram(QCoreApplication::applicationFilePath());
+    QStringList arguments{QStringLiteral("--waitInst")};
+    // Taken from anywhere on the command line, unlike the other options.
+    if (m_restartWithVirtualKeypad)
+        arguments << QStringLiteral("--virtual-keypad");
+    process.setArguments(arguments);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (m_restartInBackground)
+        environment.insert(QLatin1String(RestartInBackgroundVariable), QStringLiteral("1"));
+    process.setProcessEnvironment(environment);
+    if (!process.startDetached())
+        qWarning().noquote() << "Could not restart" << process.program();
 }

@@ -15,7 +15,7 @@ class FormArea;
 class IPC_Thread;
 class KeyItemGridView;
 class KeyItemModel;
-class LayoutMenu;
+class PreferenceLauncher;
 class QLabel;
 class QSettings;
 class QTranslator;
@@ -60,6 +60,8 @@ public:
     FormArea* formArea() const;
     TreeView* treeView() const;
     VirtualKeypad* virtualKeypad() const;
+    // The preference dialog's opener (Settings in the palette and the tray).
+    PreferenceLauncher* preferences() const;
 
     Log* log();
     AgentCore* core() const;
@@ -104,6 +106,7 @@ private:
     void tellUser(const QString& subject, const QString& text);
     void setupTray();
     void setupVirtualKeypad();
+    void setupPreferences();
     void hideToBackground();
     void toggleFromTray();
     void stopThreads();
@@ -121,13 +124,16 @@ private:
     ActionList* m_actionList = nullptr;
     FormArea* m_formArea = nullptr;
     TreeView* m_treeView = nullptr;
-    LayoutMenu* m_layoutMenu = nullptr;
     EditorFocus* m_editorFocus = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
     VirtualKeypad* m_virtualKeypad = nullptr;
     TerminationSignals* m_terminationSignals = nullptr;
     IPC_Thread* m_ipcThread = nullptr;
+    PreferenceLauncher* m_preferences = nullptr;
     bool m_restartFlag = false;
+    // How the restarted program comes back: in the tray, with the virtual keypad.
+    bool m_restartInBackground = false;
+    bool m_restartWithVirtualKeypad = false;
     bool m_quitting = false;
 };

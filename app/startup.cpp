@@ -105,6 +105,7 @@ int Startup::run(int& argc, char** argv)
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
     StartupFlags flags = parseCommandLine(arguments);
+    takeRestartEnvironment(&flags);
     resolveInstance(&flags);
     if (flags[QuitAtOnce])
         return -1;

@@ -1,5 +1,7 @@
 #include "startupflags.h"
 
+#include <QtGlobal>
+
 StartupFlags parseCommandLine(QStringList arguments)
 {
     StartupFlags result;
@@ -23,4 +25,12 @@ StartupFlags parseCommandLine(QStringList arguments)
         result.openFilePath = arguments.at(2);
     }
     return result;
+}
+
+void takeRestartEnvironment(StartupFlags* flags)
+{
+    const bool background = qEnvironmentVariableIntValue(RestartInBackgroundVariable) == 1;
+    qunsetenv(RestartInBackgroundVariable);
+    if (background && (*flags)[WaitInstance])
+        flags->set(RunInBackground);
 }

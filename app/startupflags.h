@@ -29,3 +29,13 @@ struct StartupFlags
 // first argument after the program name counts. Comparisons are exact and
 // case-sensitive.
 StartupFlags parseCommandLine(QStringList arguments);
+
+// A restart passes "--waitInst", and only the first argument counts; one made
+// while the program was in the tray says so in the environment instead, so
+// that the new process comes back there too.
+constexpr char RestartInBackgroundVariable[] = "KEYSTAGE_RESTART_IN_BACKGROUND";
+
+// With "--waitInst" and the variable set to 1, sets RunInBackground. The
+// variable leaves the environment either way: programs started from here
+// must not inherit it.
+void takeRestartEnvironment(StartupFlags* flags);

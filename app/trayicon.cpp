@@ -12,11 +12,13 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
     m_show = m_menu->addAction(tr("Show"));
     m_virtualKeypad = m_menu->addAction(tr("Virtual Keypad"));
     m_virtualKeypad->setCheckable(true);
+    m_settings = m_menu->addAction(tr("Settings…"));
     m_about = m_menu->addAction(tr("About"));
     m_menu->addSeparator();
     m_quit = m_menu->addAction(tr("Quit"));
     connect(m_show, &QAction::triggered, this, &TrayIcon::showRequested);
     connect(m_virtualKeypad, &QAction::toggled, this, &TrayIcon::virtualKeypadToggled);
+    connect(m_settings, &QAction::triggered, this, &TrayIcon::settingsRequested);
     connect(m_about, &QAction::triggered, this, &TrayIcon::aboutRequested);
     connect(m_quit, &QAction::triggered, this, &TrayIcon::quitRequested);
 
@@ -57,6 +59,11 @@ QAction* TrayIcon::showAction() const
 QAction* TrayIcon::virtualKeypadAction() const
 {
     return m_virtualKeypad;
+}
+
+QAction* TrayIcon::settingsAction() const
+{
+    return m_settings;
 }
 
 void TrayIcon::setVirtualKeypadChecked(bool on)

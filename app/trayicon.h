@@ -22,12 +22,14 @@ public:
     QMenu* menu() const;
     QAction* showAction() const;
     QAction* virtualKeypadAction() const;
+    QAction* settingsAction() const;
     QAction* quitAction() const;
 
 signals:
     void showRequested();
     void toggleRequested();
     void aboutRequested();
+    void settingsRequested();
     void quitRequested();
     void virtualKeypadToggled(bool on);
 
@@ -41,5 +43,6 @@ private:
     QAction* m_show = nullptr;
     QAction* m_virtualKeypad = nullptr;
     QAction* m_about = nullptr;
+    QAction* m_settings = nullptr;
     QAction* m_quit = nullptr;
 };

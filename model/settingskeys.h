@@ -50,4 +50,11 @@ inline QString keyMapKey(int index)
     return QString(KeyMapPattern).arg(index);
 }
 
+// Preference dialog.
+// The keypad's brightness, 0..100, set on every keypad as it connects.
+constexpr QLatin1String Brightness = literal("brightness");
+constexpr int BrightnessMin = 0;
+constexpr int BrightnessMax = 100;
+constexpr int BrightnessDefault = 100;
+
 } // namespace SettingsKeys

@@ -3,7 +3,7 @@
 #include "buttonlayoutconfig.h"
 #include "keygridgeometry.h"
 #include "keypadtable.h"
-#include "layoutmenu.h"
+#include "layouttext.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "simulatedkeypad.h"
@@ -151,7 +151,7 @@ void VirtualKeypadWindow::showConnection(bool pluggedIn)
 {
     if (!pluggedIn)
         releaseButton();
-    m_status->setText(pluggedIn ? LayoutMenu::layoutText(m_layout) : tr("unplugged"));
+    m_status->setText(pluggedIn ? LayoutText::describe(m_layout) : tr("unplugged"));
     WidgetLook::setStyleProperty(m_body, "unplugged", pluggedIn ? QStringLiteral("false") : QStringLiteral("true"));
     if (pluggedIn) {
         m_body->setGraphicsEffect(nullptr);

@@ -3,6 +3,8 @@
 #include "hid_comm.h"
 #include "keypadstatus.h"
 #include "objectregistry.h"
+#include "settings.h"
+#include "settingskeys.h"
 #include "simulatedkeypad.h"
 #include "testmain.h"
 
@@ -76,13 +78,38 @@ private slots:
         QCOMPARE(opened.size(), 1);
     }
 
-    void shouldShowThePageOnAKeypadPresentAtStart()
+    // Every keypad that connects gets the page and the chosen brightness.
+    void shouldShowThePageOnEveryKeypadThatConnects_data()
     {
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<int>("level");
+        QTest::newRow("chosen") << QVariant(37) << 37;
+        QTest::newRow("never chosen") << QVariant() << 100;
+        QTest::newRow("out of range") << QVariant(250) << 100;
+    }
+
+    void shouldShowThePageOnEveryKeypadThatConnects()
+    {
+        QFETCH(QVariant, stored);
+        QFETCH(int, level);
+        QFile::remove(Settings().fileName());
         AgentCore core;
         QCOMPARE(registeredCount(), CoreComponents.size());
         QTRY_COMPARE_WITH_TIMEOUT(core.keypadStatus()->state(), KeypadStatus::Connected, WaitMs);
         const int keys = ButtonLayoutConfig::keyCount(core.layoutConfig()->currentLayout());
         QTRY_COMPARE_WITH_TIMEOUT(m_keypad->keysWithImages().size(), keys, WaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_keypad->backlight(), 100, WaitMs);
+
+        if (stored.isValid())
+            core.settingsStore()->setValue(SettingsKeys::Brightness, stored);
+        else
+            core.settingsStore()->remove(SettingsKeys::Brightness);
+        m_keypad->unplug();
+        QTRY_COMPARE_WITH_TIMEOUT(core.keypadStatus()->state(), KeypadStatus::Absent, WaitMs);
+        m_keypad->plugIn();
+        core.hidComm()->onKeyboardWasAdded(SimulatedKeypad::VendorId, m_keypad->productId());
+        QTRY_COMPARE_WITH_TIMEOUT(m_keypad->keysWithImages().size(), keys, WaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(m_keypad->backlight(), level, WaitMs);
     }
 
     void shouldStopItsThreadsAndLeaveTheRegistry()

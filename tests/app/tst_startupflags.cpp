@@ -49,6 +49,34 @@ private slots:
         QCOMPARE(flags.openFilePath, path);
     }
 
+    // A restart from the tray says so in the environment, and only a restart
+    // ("--waitInst") listens; the variable never reaches what we start.
+    void shouldTakeTheRestartInBackgroundFromTheEnvironment_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("background");
+        QTest::newRow("restart from the tray") << "--waitInst" << QByteArray("1") << true;
+        QTest::newRow("restart from the window") << "--waitInst" << QByteArray() << false;
+        QTest::newRow("other value") << "--waitInst" << QByteArray("yes") << false;
+        QTest::newRow("not a restart") << "" << QByteArray("1") << false;
+    }
+
+    void shouldTakeTheRestartInBackgroundFromTheEnvironment()
+    {
+        QFETCH(QString, first);
+        QFETCH(QByteArray, value);
+        QFETCH(bool, background);
+        if (value.isNull())
+            qunsetenv(RestartInBackgroundVariable);
+        else
+            qputenv(RestartInBackgroundVariable, value);
+        StartupFlags flags = parseCommandLine({QStringLiteral("keystage"), first});
+        takeRestartEnvironment(&flags);
+        QCOMPARE(flags[RunInBackground], background);
+        QVERIFY(!qEnvironmentVariableIsSet(RestartInBackgroundVariable));
+    }
+
     // Taken out wherever it stands; the first-argument rule applies to the rest.
     void shouldTakeTheVirtualKeypadOptionFromAnywhere_data()
     {

@@ -1,0 +1,66 @@
+#include "preferencelauncher.h"
+
+#include "aboutpage.h"
+#include "importexportpage.h"
+#include "keypadpage.h"
+#include "languagepage.h"
+#include "layoutpage.h"
+#include "logging.h"
+#include "preferencedialog.h"
+#include "resetpage.h"
+#include "settings.h"
+#include "startatloginpage.h"
+
+#include <QWidget>
+
+PreferenceLauncher::PreferenceLauncher(const PreferenceContext& context, QWidget* dialogParent)
+    : QObject(dialogParent), m_context(context), m_dialogParent(dialogParent)
+{
+}
+
+PreferenceDialog* PreferenceLauncher::open()
+{
+    if (!m_dialog) {
+        LOG_MSG(QStringLiteral("preference dialog opened"));
+        m_dialog = new PreferenceDialog(m_dialogParent);
+        m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+        addPages(m_dialog);
+    }
+    m_dialog->show();
+    if (m_dialog->isMinimized())
+        m_dialog->setWindowState(m_dialog->windowState() & ~Qt::WindowMinimized);
+    m_dialog->raise();
+    m_dialog->activateWindow();
+    return m_dialog;
+}
+
+// In the order the list shows them.
+void PreferenceLauncher::addPages(PreferenceDialog* dialog)
+{
+    dialog->addPage(new KeypadPage(m_context));
+    dialog->addPage(new LayoutPage(m_context));
+    dialog->addPage(new LanguagePage(m_context));
+    dialog->addPage(new ImportExportPage(m_context));
+    dialog->addPage(new ResetPage(m_context));
+    dialog->addPage(new StartAtLoginPage());
+    dialog->addPage(new AboutPage(m_context.store ? m_context.store->fileName() : QString()));
+}
+
+PreferenceDialog* PreferenceLauncher::dialog() const
+{
+    return m_dialog;
+}
+
+bool PreferenceLauncher::canClose(QString& why) const
+{
+    return !m_dialog || m_dialog->canClose(why);
+}
+
+void PreferenceLauncher::closeNow()
+{
+    if (!m_dialog)
+        return;
+    // Later, not now: this may run from one of the dialog's own slots.
+    m_dialog->hide();
+    m_dialog->deleteLater();
+}

@@ -1,0 +1,147 @@
+#include "preferencedialog.h"
+
+#include "logging.h"
+#include "preferencepage.h"
+#include "userquestion.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int PageListWidth = 190;
+}
+
+PreferenceDialog::PreferenceDialog(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("PreferenceDialog"));
+    setWindowTitle(tr("%1 Settings").arg(QCoreApplication::applicationName()));
+    setAccessibleName(windowTitle());
+
+    m_list = new QListWidget(this);
+    m_list->setObjectName(QStringLiteral("PreferencePageList"));
+    m_list->setAccessibleName(tr("Settings pages"));
+    m_list->setFixedWidth(PageListWidth);
+    m_list->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_stack = new QStackedWidget(this);
+    m_stack->setObjectName(QStringLiteral("PreferencePages"));
+    connect(m_list, &QListWidget::currentRowChanged, m_stack, &QStackedWidget::setCurrentIndex);
+
+    m_close = new QPushButton(tr("Close"), this);
+    m_close->setObjectName(QStringLiteral("PreferenceClose"));
+    m_close->setAccessibleName(m_close->text());
+    m_close->setAutoDefault(false);
+    connect(m_close, &QPushButton::clicked, this, &QDialog::reject);
+
+    auto* pages = new QHBoxLayout;
+    pages->setContentsMargins(0, 0, 0, 0);
+    pages->setSpacing(0);
+    pages->addWidget(m_list);
+    pages->addWidget(m_stack, 1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(12, 8, 12, 12);
+    buttons->addStretch(1);
+    buttons->addWidget(m_close);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(pages, 1);
+    layout->addLayout(buttons);
+
+    resize(780, 560);
+    m_list->setFocus();
+    if (parent)
+        parent->installEventFilter(this);
+}
+
+// The main window hides and shows itself again to change its size (a new
+// layout, chosen here), and some window managers then stack it above its
+// own dialog: the dialog comes back on top, after the window's map request.
+bool PreferenceDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == parent() && isVisible()) {
+        if (event->type() == QEvent::Hide) {
+            m_activeWhenParentHid = isActiveWindow();
+        } else if (event->type() == QEvent::Show) {
+            QTimer::singleShot(0, this, [this] {
+                raise();
+                if (m_activeWhenParentHid)
+                    activateWindow();
+            });
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void PreferenceDialog::addPage(PreferencePage* page)
+{
+    if (!logMsgWhenRetFail(page != nullptr, QStringLiteral("page is nullptr!!")))
+        return;
+    m_stack->addWidget(page);
+    auto* item = new QListWidgetItem(page->title(), m_list);
+    item->setData(Qt::AccessibleTextRole, page->title());
+    if (m_list->currentRow() < 0)
+        m_list->setCurrentRow(0);
+}
+
+int PreferenceDialog::pageCount() const
+{
+    return m_stack->count();
+}
+
+PreferencePage* PreferenceDialog::page(int index) const
+{
+    return qobject_cast<PreferencePage*>(m_stack->widget(index));
+}
+
+PreferencePage* PreferenceDialog::currentPage() const
+{
+    return qobject_cast<PreferencePage*>(m_stack->currentWidget());
+}
+
+void PreferenceDialog::setCurrentPage(int index)
+{
+    m_list->setCurrentRow(index);
+}
+
+bool PreferenceDialog::canClose(QString& why) const
+{
+    for (int i = 0; i < pageCount(); ++i) {
+        if (!page(i)->canClose(why))
+            return false;
+    }
+    return true;
+}
+
+QListWidget* PreferenceDialog::pageList() const
+{
+    return m_list;
+}
+
+QPushButton* PreferenceDialog::closeButton() const
+{
+    return m_close;
+}
+
+void PreferenceDialog::done(int result)
+{
+    QString why;
+    if (canClose(why)) {
+        QDialog::done(result);
+        return;
+    }
+    LOG_MSG(QStringLiteral("settings kept open: %1").arg(why));
+    UserQuestion message;
+    message.subject = tr("The settings cannot be closed now.");
+    message.text = why;
+    message.buttons[UserQuestion::RightSlot] = UserQuestion::Ok;
+    message.defaultButton = UserQuestion::Ok;
+    UserQuestions::ask(message);
+}
