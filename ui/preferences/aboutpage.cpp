@@ -30,8 +30,10 @@ AboutPage::AboutPage(const QString& settingsFile, QWidget* parent) : PreferenceP
     layout->addSpacing(6);
     layout->addWidget(PreferenceLook::section(tr("Licences"), this));
     layout->addWidget(PreferenceLook::note(
-        tr("%1 is built with Qt %2, used under the GNU Lesser General Public License version 3. Key titles are "
-           "drawn with the Liberation Sans fonts, used under the SIL Open Font License 1.1.")
+        tr("%1 is free software: you can redistribute it and modify it under the terms of the GNU General "
+           "Public License, version 3 or any later version. It comes with no warranty. It is built with Qt %2, "
+           "used under the GNU Lesser General Public License version 3. Key titles are drawn with the Liberation "
+           "Sans fonts, used under the SIL Open Font License 1.1.")
             .arg(QCoreApplication::applicationName(), QString::fromLatin1(qVersion())),
         this));
     auto* aboutQt = new QPushButton(tr("About Qt"), this);
