@@ -50,4 +50,7 @@ inline QString keyMapKey(int index)
     return QString(KeyMapPattern).arg(index);
 }
 
+// Software update: whether the program may ask the release feed (bool, default false).
+constexpr QLatin1String CheckForUpdates = literal("check_for_updates");
+
 } // namespace SettingsKeys
