@@ -493,6 +493,8 @@ bool Hid_Comm::updateFW(QString fwPath)
 {
     if (fwPath.isEmpty())
         return false;
+    firmwareUpdating.store(true);
+    const auto lowered = qScopeGuard([this] { firmwareUpdating.store(false); });
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     return device.vT_FirmwareUpgrade(QFile::encodeName(fwPath).constData()) == Err_Success;
