@@ -40,6 +40,13 @@ QImage composeKeyImage(const QImage& icon, bool effectIcon)
     return image;
 }
 
+// Sets the flag for as long as the returned guard lives.
+auto raised(std::atomic<bool>& flag)
+{
+    flag.store(true);
+    return qScopeGuard([&flag] { flag.store(false); });
+}
+
 } // namespace
 
 Hid_Comm::Hid_Comm(QObject* parent) : QThread(parent)
@@ -493,8 +500,7 @@ bool Hid_Comm::updateFW(QString fwPath)
 {
     if (fwPath.isEmpty())
         return false;
-    firmwareUpdating.store(true);
-    const auto lowered = qScopeGuard([this] { firmwareUpdating.store(false); });
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     return device.vT_FirmwareUpgrade(QFile::encodeName(fwPath).constData()) == Err_Success;
@@ -511,8 +517,7 @@ bool Hid_Comm::updateFW(const QByteArray& fwData, const FirmwareProgress& progre
         return false;
     // Raised before the locks are taken, so that a call already waiting for
     // the device gives up too.
-    firmwareUpdating.store(true);
-    const auto lowered = qScopeGuard([this] { firmwareUpdating.store(false); });
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     const bool bootLoader = KeypadTable::usesSmallPackets(layout.load());
@@ -533,6 +538,7 @@ bool Hid_Comm::updateFW(const QByteArray& fwData, const FirmwareProgress& progre
 
 int Hid_Comm::updateVendorFirmware(const QByteArray& image)
 {
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     return VendorDeviceLibrary::instance().updateFirmware(image);
