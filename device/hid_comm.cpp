@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QPainter>
+#include <QScopeGuard>
 
 namespace {
 
@@ -37,6 +38,13 @@ QImage composeKeyImage(const QImage& icon, bool effectIcon)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
     painter.drawImage((keySize.width() - fitted.width()) / 2, (keySize.height() - fitted.height()) / 2, fitted);
     return image;
+}
+
+// Sets the flag for as long as the returned guard lives.
+auto raised(std::atomic<bool>& flag)
+{
+    flag.store(true);
+    return qScopeGuard([&flag] { flag.store(false); });
 }
 
 } // namespace
@@ -376,7 +384,9 @@ bool Hid_Comm::sendIcon(int devKeyIdx, const QImage& icon, bool effectIcon)
         return false;
     }
     const QImage image = orientForLayout(composeKeyImage(icon, effectIcon), layoutValue);
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return false;
     if (const int pause = KeypadTable::writePauseMs(layoutValue))
         QThread::msleep(pause);
     return writeKeyImage(layoutValue, devKeyIdx, image) != Err_Failure;
@@ -418,7 +428,9 @@ bool Hid_Comm::sendIconArray(const QImage* icons)
     const int layoutValue = layout.load();
     if (!opened.load() || !KeypadTable::isValidLayout(layoutValue))
         return false;
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return false;
     int result = Err_Failure;
     const int pause = KeypadTable::writePauseMs(layoutValue);
     for (int position = 0; position < KeypadTable::keyCount(layoutValue); ++position) {
@@ -431,9 +443,25 @@ bool Hid_Comm::sendIconArray(const QImage* icons)
 
 // ---- other device calls -----------------------------------------------------
 
+std::unique_lock<QMutex> Hid_Comm::lockDevice()
+{
+    // Polled: a call that began waiting just before an update took the
+    // device must give up as well, not wait for the whole update.
+    constexpr int PollMs = 50;
+    while (!deviceMutex.tryLock(PollMs)) {
+        if (firmwareUpdating.load()) {
+            LOG_MSG(QStringLiteral("skipped: the firmware is being updated."));
+            return {};
+        }
+    }
+    return std::unique_lock<QMutex>(deviceMutex, std::adopt_lock);
+}
+
 void Hid_Comm::setBacklight(int val)
 {
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return;
     if (vendorLibraryInUse.load())
         VendorDeviceLibrary::instance().setBrightness(val);
     else
@@ -442,7 +470,9 @@ void Hid_Comm::setBacklight(int val)
 
 bool Hid_Comm::readSerialNumber(QString& sn)
 {
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return false;
     if (vendorLibraryInUse.load())
         return VendorDeviceLibrary::instance().serialNumber(sn) == 0;
     uint8_t serial[17] = {};
@@ -454,7 +484,9 @@ bool Hid_Comm::readSerialNumber(QString& sn)
 
 bool Hid_Comm::readFWVersion(QString& fwVer)
 {
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return false;
     if (vendorLibraryInUse.load())
         return VendorDeviceLibrary::instance().firmwareVersion(fwVer) == 0;
     uint8_t version[13] = {};
@@ -468,6 +500,7 @@ bool Hid_Comm::updateFW(QString fwPath)
 {
     if (fwPath.isEmpty())
         return false;
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     return device.vT_FirmwareUpgrade(QFile::encodeName(fwPath).constData()) == Err_Success;
@@ -475,13 +508,25 @@ bool Hid_Comm::updateFW(QString fwPath)
 
 bool Hid_Comm::updateFW(QByteArray fwData)
 {
+    return updateFW(fwData, FirmwareProgress());
+}
+
+bool Hid_Comm::updateFW(const QByteArray& fwData, const FirmwareProgress& progress)
+{
     if (fwData.isEmpty())
         return false;
+    // Raised before the locks are taken, so that a call already waiting for
+    // the device gives up too.
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
-    if (!KeypadTable::usesSmallPackets(layout.load()))
-        return device.vT_FirmwareUpgrade(fwData) == Err_Success;
-    const bool flashed = device.vT_FirmwareUpgradeNUC442(fwData) == Err_Success;
+    const bool bootLoader = KeypadTable::usesSmallPackets(layout.load());
+    device.setFirmwareProgress(progress);
+    const int result = bootLoader ? device.vT_FirmwareUpgradeNUC442(fwData) : device.vT_FirmwareUpgrade(fwData);
+    device.setFirmwareProgress(FirmwareProgress());
+    const bool flashed = result == Err_Success;
+    if (!bootLoader)
+        return flashed;
     // The handle now belongs to the boot loader; the keypad comes back under
     // its own product id and is opened again when it arrives.
     closeDevice();
@@ -493,6 +538,7 @@ bool Hid_Comm::updateFW(QByteArray fwData)
 
 int Hid_Comm::updateVendorFirmware(const QByteArray& image)
 {
+    const auto updating = raised(firmwareUpdating);
     QMutexLocker gate(&readGate);
     QMutexLocker locker(&deviceMutex);
     return VendorDeviceLibrary::instance().updateFirmware(image);
@@ -500,7 +546,9 @@ int Hid_Comm::updateVendorFirmware(const QByteArray& image)
 
 bool Hid_Comm::showLogo()
 {
-    QMutexLocker locker(&deviceMutex);
+    const auto locker = lockDevice();
+    if (!locker.owns_lock())
+        return false;
     if (vendorLibraryInUse.load())
         return VendorDeviceLibrary::instance().showLogo() == 0;
     return device.vT_ShowLogo() == Err_Success;

@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <mutex>
 
 class HidTransport;
 class KeyItem;
@@ -50,6 +51,12 @@ public:
 
     // The maker's library's own update call, its result as it gives it.
     int updateVendorFirmware(const QByteArray& image);
+    // updateFW(QByteArray), telling progress how far it got, on the calling
+    // thread. Meant for a worker thread: an update takes from seconds to
+    // minutes, and meanwhile every other device call gives up at once
+    // instead of waiting for it (see isUpdatingFirmware).
+    bool updateFW(const QByteArray& fwData, const FirmwareProgress& progress);
+    bool isUpdatingFirmware() const { return firmwareUpdating.load(); }
 
     bool sendIconArray(const QPixmap* icons);
     bool sendIconArray(const QImage* icons);
@@ -96,6 +103,8 @@ private:
     void idleWait(int milliseconds);
     QByteArray encode(const QImage& image, const char* format, int quality);
     int writeKeyImage(int layoutValue, int deviceKey, const QImage& image);
+    // The device mutex, or no lock while a firmware update holds it.
+    std::unique_lock<QMutex> lockDevice();
 
     std::atomic<bool> stopFlag{false};
     VTHidDev device;
@@ -105,6 +114,7 @@ private:
     std::atomic<int> layout{-1};
     std::atomic<bool> paused{false};
     std::atomic<bool> ownProtocolOnly{false};
+    std::atomic<bool> firmwareUpdating{false};
 
     // Held by the polling loop around each read, and by whatever replaces or
     // closes the handle from outside (opening, firmware updates): the handle

@@ -1,77 +1,110 @@
 #include "preference.h"
 
 #include "buttonlayoutconfig.h"
-#include "firmwarecatalog.h"
 #include "hid_comm.h"
 #include "keypadtable.h"
 #include "logging.h"
 #include "objectregistry.h"
-#include "userquestion.h"
 
 #include <QFile>
 
 namespace {
-bool lookUpPackagedVersion(const QString& firmwareId, FirmwareCatalog::Entry& entry)
-{
-    return FirmwareCatalog::packagedVersion(firmwareId, Hid_Comm::usesVendorLibrary(), entry);
-}
-
 int currentLayout()
 {
     auto* layouts = COMPONENT(ButtonLayoutConfig, ComponentId::ButtonLayoutConfig);
     return layouts ? layouts->currentLayout() : -1;
 }
+
+// The image with what the device path needs in front of it: the maker's
+// library takes it raw, our own protocol behind the host header.
+bool flash(Hid_Comm* hid, const QByteArray& image, const FirmwareProgress& progress)
+{
+    if (!Hid_Comm::usesVendorLibrary())
+        return hid->updateFW(FirmwareCatalog::hostHeader(image) + image, progress);
+    // The maker's library answers non-zero here when it flashed the image;
+    // the sense is kept as it is, and callers read it so. It tells nothing
+    // on the way.
+    if (progress)
+        progress(0, 1);
+    const bool flashed = hid->updateVendorFirmware(image) != 0;
+    if (flashed && progress)
+        progress(1, 1);
+    return flashed;
+}
 } // namespace
 
 namespace Preference {
+
+DeviceInfoResult readDeviceInfo(Hid_Comm* hid, int layout, DeviceInfo& info)
+{
+    if (!hid || !hid->isOpened())
+        return DeviceInfoResult::NoKeypad;
+    info.currentVersion = QStringLiteral("read error");
+    if (!hid->readFWVersion(info.currentVersion) || !hid->readSerialNumber(info.serialNumber))
+        return DeviceInfoResult::NoAnswer;
+    const bool vendorLibrary = Hid_Comm::usesVendorLibrary();
+    info.modelName = KeypadTable::modelName(layout);
+    info.firmwareId = KeypadTable::firmwareId(layout, vendorLibrary);
+    if (!FirmwareCatalog::isKnownDevice(info.firmwareId))
+        return DeviceInfoResult::UnknownDevice;
+    if (!FirmwareCatalog::packagedVersion(info.firmwareId, vendorLibrary, info.image))
+        return DeviceInfoResult::NoImage;
+    info.packagedVersion = info.image.version;
+    return DeviceInfoResult::Ready;
+}
 
 bool getDeviceInfo(QString& modelName, QString& firmwareId, QString& serialNumber, QString& currentVersion,
                    QString& packagedVersion)
 {
     auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
-    if (!hid)
-        return false;
-    currentVersion = QStringLiteral("read error");
-    if (!hid->readFWVersion(currentVersion) || !hid->readSerialNumber(serialNumber))
-        return false;
-    const int layout = currentLayout();
-    modelName = KeypadTable::modelName(layout);
-    firmwareId = KeypadTable::firmwareId(layout, Hid_Comm::usesVendorLibrary());
-    if (!FirmwareCatalog::isKnownDevice(firmwareId))
-        return false;
-    FirmwareCatalog::Entry entry;
-    if (!lookUpPackagedVersion(firmwareId, entry))
-        return false;
-    packagedVersion = entry.version;
-    return true;
+    DeviceInfo info;
+    const DeviceInfoResult result = readDeviceInfo(hid, currentLayout(), info);
+    modelName = info.modelName;
+    firmwareId = info.firmwareId;
+    serialNumber = info.serialNumber;
+    currentVersion = info.currentVersion;
+    packagedVersion = info.packagedVersion;
+    return result == DeviceInfoResult::Ready;
 }
 
-bool onFwUpdateClicked()
+UserQuestion updateQuestion(const DeviceInfo& info)
 {
-    LOG_MSG(QStringLiteral("show firmware updates dialog."));
-    QString model, firmwareId, serial, current, packaged;
-    if (!getDeviceInfo(model, firmwareId, serial, current, packaged)) {
-        LOG_MSG(QStringLiteral("ERROR: getDeviceInfo()"));
-        return false;
-    }
     UserQuestion question;
     question.title = QObject::tr("Do you want to update firmware?");
-    question.text = QObject::tr("Firmware version") + QLatin1Char(' ') + packaged +
-                    QObject::tr(" is now available - current version ") + current +
+    question.text = QObject::tr("Firmware version") + QLatin1Char(' ') + info.packagedVersion +
+                    QObject::tr(" is now available - current version ") + info.currentVersion +
                     QObject::tr(" Would you like to update now?");
     question.buttons[UserQuestion::MidSlot] = UserQuestion::No;
     question.buttons[UserQuestion::RightSlot] = UserQuestion::Yes;
     question.icon = UserQuestion::LogoIcon;
     question.defaultButton = UserQuestion::Yes;
-    if (UserQuestions::ask(question).button != UserQuestion::Yes)
+    return question;
+}
+
+QString imagePath(const DeviceInfo& info)
+{
+    return FirmwareCatalog::imagePath(info.firmwareId, info.image, Hid_Comm::usesVendorLibrary());
+}
+
+bool onFwUpdateClicked()
+{
+    LOG_MSG(QStringLiteral("show firmware updates dialog."));
+    DeviceInfo info;
+    if (readDeviceInfo(COMPONENT(Hid_Comm, ComponentId::HidComm), currentLayout(), info) != DeviceInfoResult::Ready) {
+        LOG_MSG(QStringLiteral("ERROR: getDeviceInfo()"));
         return false;
-    FirmwareCatalog::Entry entry;
-    if (!lookUpPackagedVersion(firmwareId, entry))
+    }
+    if (UserQuestions::ask(updateQuestion(info)).button != UserQuestion::Yes)
         return false;
-    return updateFW(FirmwareCatalog::imagePath(firmwareId, entry, Hid_Comm::usesVendorLibrary()));
+    return updateFW(imagePath(info));
 }
 
 bool updateFW(const QString& path)
+{
+    return updateFW(COMPONENT(Hid_Comm, ComponentId::HidComm), path, FirmwareProgress());
+}
+
+bool updateFW(Hid_Comm* hid, const QString& path, const FirmwareProgress& progress)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
@@ -79,14 +112,9 @@ bool updateFW(const QString& path)
         return false;
     }
     const QByteArray image = file.readAll();
-    auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
     if (!hid)
         return false;
-    // The maker's library answers non-zero here when it flashed the image;
-    // the sense is kept as it is, and callers read it so.
-    if (Hid_Comm::usesVendorLibrary())
-        return hid->updateVendorFirmware(image) != 0;
-    return hid->updateFW(FirmwareCatalog::hostHeader(image) + image);
+    return flash(hid, image, progress);
 }
 
 } // namespace Preference

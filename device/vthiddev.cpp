@@ -121,19 +121,37 @@ int VTHidDev::sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, i
 // Full 8000-byte chunks, each followed by 2 ms, then the remainder. The
 // writes' results are not checked: the show or commit report that follows
 // tells whether the device took the object.
-int VTHidDev::sendLargeChunks(const uint8_t* data, int size)
+int VTHidDev::sendLargeChunks(const uint8_t* data, int size, bool firmware)
 {
     const int fullChunks = size / LargeChunkCapacity;
+    const int rest = size % LargeChunkCapacity;
+    const int chunks = fullChunks + (rest > 0 ? 1 : 0);
+    if (firmware)
+        reportProgress(0, chunks);
     for (int i = 0; i < fullChunks; ++i) {
         sendChunk(data, uint32_t(i * LargeChunkCapacity), LargeChunkCapacity, LargeChunkReportSize);
         delayMs(2);
+        if (firmware)
+            reportProgress(i + 1, chunks);
     }
-    const int rest = size % LargeChunkCapacity;
     if (rest > 0) {
         sendChunk(data, uint32_t(fullChunks * LargeChunkCapacity), uint32_t(rest), LargeChunkReportSize);
         delayMs(2);
+        if (firmware)
+            reportProgress(chunks, chunks);
     }
     return Err_Success;
+}
+
+void VTHidDev::setFirmwareProgress(FirmwareProgress progress)
+{
+    firmwareProgress = std::move(progress);
+}
+
+void VTHidDev::reportProgress(int done, int total) const
+{
+    if (firmwareProgress)
+        firmwareProgress(done, total);
 }
 
 int VTHidDev::sendSmallChunks(const uint8_t* data, int size)
@@ -299,7 +317,7 @@ int VTHidDev::vT_ReadKeyButtonTimeout(KEYBUTTON_DATA* keys, int timeoutMs)
 
 int VTHidDev::sendFirmwareCommit(const QByteArray& image, uint32_t checksum)
 {
-    sendLargeChunks(reinterpret_cast<const uint8_t*>(image.constData()), image.size());
+    sendLargeChunks(reinterpret_cast<const uint8_t*>(image.constData()), image.size(), true);
     uint8_t report[FirmwareCommitReportSize] = {FirmwareCommitId};
     putU32(&report[1], uint32_t(image.size()));
     putU32(&report[5], checksum);
@@ -393,10 +411,12 @@ int VTHidDev::vT_FirmwareUpgradeNUC442(const QByteArray& image)
 
     const QByteArray body = image.mid(FirmwareHeaderSize);
     const int pages = (body.size() + BootPageSize - 1) / BootPageSize;
+    reportProgress(0, pages);
     for (int page = 0; page < pages; ++page) {
         sendBootLoaderPage(body, page);
         if (!bootLoaderAcknowledged())
             return Err_Failure;
+        reportProgress(page + 1, pages);
         delayMs(100);
     }
     sendBootLoaderControl(0, BootFinishMarker);

@@ -6,6 +6,7 @@
 #include <QtGlobal>
 
 #include <cstdint>
+#include <functional>
 
 // The key states read from the keypad: byte n is 1 while key n is held down.
 struct KEYBUTTON_DATA
@@ -26,6 +27,11 @@ enum VTHidResult : int
     Err_Timeout = -13,      // no input report arrived in time
     Err_NoMemory = -14,     // no memory for the firmware copy
 };
+
+// How far a firmware upgrade got: steps done of all steps (data chunks sent,
+// or boot loader pages acknowledged). Called on the thread that runs the
+// upgrade, once with 0 before the first step and once after each step.
+using FirmwareProgress = std::function<void(int done, int total)>;
 
 // The keypad protocol: every device operation as the reports that carry it.
 // All objects share one process-wide device handle, so calls must come from
@@ -55,6 +61,10 @@ public:
     int vT_FirmwareUpgrade(const QByteArray& image);
     int vT_FirmwareUpgradeNUC442(const QByteArray& image);
 
+    // Told about the steps of every firmware upgrade until replaced; an empty
+    // function tells nobody. Set it under the same lock as the upgrade calls.
+    void setFirmwareProgress(FirmwareProgress progress);
+
     // True while the shared handle is open (whichever object opened it).
     static bool isDeviceOpen();
 
@@ -67,7 +77,7 @@ public:
 
 private:
     int writeImage(uint8_t key, const uint8_t* data, int size, bool smallPackets);
-    int sendLargeChunks(const uint8_t* data, int size);
+    int sendLargeChunks(const uint8_t* data, int size, bool firmware = false);
     int sendSmallChunks(const uint8_t* data, int size);
     int sendChunk(const uint8_t* data, uint32_t offset, uint32_t length, int reportLength);
     int sendFeature(const uint8_t* report, int length);
@@ -78,6 +88,9 @@ private:
     int sendBootLoaderControl(uint16_t page, uint16_t marker);
     bool bootLoaderAcknowledged();
     int readFeature(uint8_t reportId, uint8_t* buffer, int length, const char* method, int expected);
+    void reportProgress(int done, int total) const;
+
+    FirmwareProgress firmwareProgress;
 
     uint8_t inputReport[KeypadProtocol::InputReportSize] = {};
 };

@@ -57,4 +57,7 @@ constexpr int BrightnessMin = 0;
 constexpr int BrightnessMax = 100;
 constexpr int BrightnessDefault = 100;
 
+// Software update: whether the program may ask the release feed (bool, default false).
+constexpr QLatin1String CheckForUpdates = literal("check_for_updates");
+
 } // namespace SettingsKeys

@@ -9,7 +9,7 @@
 #include "treeview.h"
 
 #include <QApplication>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QTreeWidget>
 

@@ -4,9 +4,9 @@
 
 #include <QFile>
 
-void KeypadFixture::setUp()
+void KeypadFixture::setUp(unsigned short productId)
 {
-    keypad = std::make_unique<SimulatedKeypad>();
+    keypad = std::make_unique<SimulatedKeypad>(productId);
     HidTransport::setInstance(keypad.get());
     QFile::remove(Settings().fileName());
     settings = std::make_unique<Settings>();

@@ -15,7 +15,7 @@
 class KeypadFixture
 {
 public:
-    void setUp();
+    void setUp(unsigned short productId = SimulatedKeypad::DefaultProductId);
     void tearDown();
     // The layout in force for the layouts, the model and the connection.
     void useLayout(int layout);

@@ -340,7 +340,10 @@ private slots:
     {
         QVERIFY(start(H_Key_15));
         const QByteArray image = QByteArray(64, 'h') + QByteArray(20000, '\x03');
-        QVERIFY(hid->updateFW(image));
+        QVector<QPair<int, int>> steps;
+        QVERIFY(hid->updateFW(image, [&](int done, int total) { steps.append({done, total}); }));
+        // 20064 bytes: two full chunks and the rest.
+        QCOMPARE(steps, (QVector<QPair<int, int>>{{0, 3}, {1, 3}, {2, 3}, {3, 3}}));
         QVERIFY(keypad->firmwareCommit().committed);
         QVERIFY(keypad->firmwareCommit().checksumMatches);
         QTemporaryFile file;
