@@ -1,6 +1,7 @@
 #include "preferencelauncher.h"
 
 #include "aboutpage.h"
+#include "firmwarepage.h"
 #include "importexportpage.h"
 #include "keypadpage.h"
 #include "languagepage.h"
@@ -9,6 +10,7 @@
 #include "preferencedialog.h"
 #include "resetpage.h"
 #include "settings.h"
+#include "softwareupdatepage.h"
 #include "startatloginpage.h"
 
 #include <QWidget>
@@ -43,6 +45,11 @@ void PreferenceLauncher::addPages(PreferenceDialog* dialog)
     dialog->addPage(new ImportExportPage(m_context));
     dialog->addPage(new ResetPage(m_context));
     dialog->addPage(new StartAtLoginPage());
+    dialog->addPage(new FirmwarePage());
+    auto* update = new SoftwareUpdatePage();
+    if (m_context.restart)
+        connect(update, &SoftwareUpdatePage::restartRequested, this, m_context.restart);
+    dialog->addPage(update);
     dialog->addPage(new AboutPage(m_context.store ? m_context.store->fileName() : QString()));
 }
 
