@@ -1,6 +1,8 @@
 #include "agentcore.h"
 
 #include "buttonlayoutconfig.h"
+#include "dbusscreenlockmonitor.h"
+#include "dimmingsettings.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
 #include "hid_comm.h"
@@ -8,6 +10,7 @@
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypaddimmer.h"
 #include "keypadmonitor.h"
 #include "keypadstatus.h"
 #include "keypadusbids.h"
@@ -32,6 +35,7 @@ AgentCore::AgentCore(QObject* parent) : QObject(parent), m_windowSystem(WindowSy
     createModel();
     createDevice();
     createRuntime();
+    createDimming();
 }
 
 AgentCore::~AgentCore()
@@ -107,6 +111,19 @@ void AgentCore::createRuntime()
     connect(m_hidComm.get(), &Hid_Comm::keyReleased, m_keyAction.get(), &KeyAction::onKeyRleased, Qt::QueuedConnection);
 
     m_folderCondition = new FolderCondition(FolderConditionIntervalMs, this);
+}
+
+// The backlight follows the dimming rules; the press that wakes a dimmed
+// keypad never reaches an action.
+void AgentCore::createDimming()
+{
+    m_screenLock = new DBusScreenLockMonitor(this);
+    m_dimmer = new KeypadDimmer(this);
+    connect(m_dimmer, &KeypadDimmer::backlightChanged, m_hidComm.get(), &Hid_Comm::setBacklight);
+    connect(m_keypadStatus, &KeypadStatus::keypadOpened, m_dimmer, &KeypadDimmer::reapply);
+    connect(m_screenLock, &ScreenLockMonitor::lockedChanged, m_dimmer, &KeypadDimmer::setLocked);
+    m_dimmer->setSettings(DimmingSettings::load(m_store));
+    m_keyAction->setKeyEventFilter(m_dimmer);
 }
 
 void AgentCore::stop()
@@ -189,4 +206,14 @@ KeyAction* AgentCore::keyAction() const
 TaskProxy* AgentCore::taskProxy() const
 {
     return m_taskProxy.get();
+}
+
+ScreenLockMonitor* AgentCore::screenLockMonitor() const
+{
+    return m_screenLock;
+}
+
+KeypadDimmer* AgentCore::keypadDimmer() const
+{
+    return m_dimmer;
 }

@@ -5,6 +5,7 @@
 #include "buttonlayoutconfig.h"
 #include "clicklabel.h"
 #include "dialog.h"
+#include "favorite.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
 #include "formarea.h"
@@ -192,6 +193,7 @@ void MainWindow::buildEditor()
     column->addWidget(m_formArea, 3);
     column->addWidget(m_treeView, 2);
     m_layoutMenu = new LayoutMenu(this);
+    m_favorite = new Favorite(favorites(), this);
 
     connectEditor();
     m_grid->changeLayoutButtonView(KeyLayout(layoutConfig()->currentLayout()));
@@ -226,16 +228,33 @@ void MainWindow::connectEditor()
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, this, &MainWindow::onKeySelected);
     connect(m_grid, &KeyItemGridView::closeFunctionDescription, m_formArea, &FormArea::closeFunctionDescription);
     connect(m_treeView, &TreeView::treeItemChanged, m_grid, &KeyItemGridView::onTreeItemChanged);
-    m_grid->setFavoriteInserter([this](const KeyItem* item) { return favorites()->appendKeyItem(item); });
+    connectFavorites();
 
     connect(m_actionList, &ActionList::actionItemSelected, this, [this](int actionType) {
         if (actionType >= 0)
             showFunctionDescription(actionType, true);
     });
     connect(m_actionList, &ActionList::preferenceRequested, this, [this] { m_layoutMenu->popup(QCursor::pos()); });
-    connect(m_actionList, &ActionList::favoriteWindowRequested, this,
-            [] { LOG_MSG(QStringLiteral("My Favorite window requested")); });
+    connect(m_actionList, &ActionList::favoriteWindowRequested, m_favorite, &Favorite::bringWindowToFront);
     connect(m_layoutMenu, &LayoutMenu::layoutChosen, layouts, &ButtonLayoutConfig::changeLayout);
+}
+
+// "&Save as favorite" shows the new item at the end of the pad; Enter on a
+// favourite puts it on the selected key, as a drop there would.
+void MainWindow::connectFavorites()
+{
+    m_grid->setFavoriteInserter([this](const KeyItem* item) {
+        const bool kept = m_favorite->insertKeyItem(item);
+        m_favorite->moveScrollbarToBottom();
+        return kept;
+    });
+    connect(m_favorite, &Favorite::favoriteActivated, m_grid, [this](const KeyItem* item) {
+        m_grid->controller_dropKeyItemFromFavoriteGridView(item, m_grid->selectedKeyIdx());
+    });
+    connect(m_favorite, &Favorite::visibilityChanged, m_actionList, [this](bool visible) {
+        if (!visible)
+            m_actionList->cancelSelectedFavoriteButton();
+    });
 }
 
 // What the core does shows in the editor: faces flipped from the keypad, the
@@ -413,6 +432,11 @@ ActionList* MainWindow::actionList() const
     return m_actionList;
 }
 
+Favorite* MainWindow::favoriteWindow() const
+{
+    return m_favorite;
+}
+
 FormArea* MainWindow::formArea() const
 {
     return m_formArea;
@@ -533,6 +557,7 @@ void MainWindow::quitApplication()
     if (m_settings)
         m_settings->sync();
     m_tray->setVisible(false);
+    m_favorite->hide();
     close();
     QCoreApplication::quit();
 }
@@ -555,6 +580,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::hideToBackground()
 {
+    m_favorite->hide();
     // Without a tray host a hidden window could not be reached again.
     if (TrayIcon::isTrayAvailable())
         hide();

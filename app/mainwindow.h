@@ -9,6 +9,7 @@
 class ActionList;
 class AgentCore;
 class ButtonLayoutConfig;
+class Favorite;
 class FavoriteKeyItemModel;
 class FormArea;
 class IPC_Thread;
@@ -57,6 +58,7 @@ public:
     KeyItemGridView* keyGrid() const;
     ActionList* actionList() const;
     FormArea* formArea() const;
+    Favorite* favoriteWindow() const;
     TreeView* treeView() const;
     VirtualKeypad* virtualKeypad() const;
 
@@ -94,6 +96,7 @@ private:
     void buildWindow();
     void buildEditor();
     void connectEditor();
+    void connectFavorites();
     void connectCore();
     void onKeySelected(int keyIdx);
     void watchForegroundApplications(bool background);
@@ -120,6 +123,7 @@ private:
     FormArea* m_formArea = nullptr;
     TreeView* m_treeView = nullptr;
     LayoutMenu* m_layoutMenu = nullptr;
+    Favorite* m_favorite = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
     VirtualKeypad* m_virtualKeypad = nullptr;

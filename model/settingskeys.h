@@ -50,4 +50,14 @@ inline QString keyMapKey(int index)
     return QString(KeyMapPattern).arg(index);
 }
 
+// Keypad dimming. The brightness is the user's level (0..100), shared with
+// the keypad page of the preferences.
+constexpr QLatin1String Brightness = literal("brightness");
+// Minutes without a key press before the keypad dims; 0: never.
+constexpr QLatin1String DimAfterMinutes = literal("dim_after_minutes");
+// The dimmed level, 0..100.
+constexpr QLatin1String DimLevel = literal("dim_level");
+// Backlight off while the screen is locked (bool).
+constexpr QLatin1String OffWhileLocked = literal("off_while_locked");
+
 } // namespace SettingsKeys

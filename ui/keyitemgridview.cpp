@@ -249,7 +249,11 @@ void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
     QLabel* button = keyButton(buttonIdx);
     if (!logMsgWhenRetFail(button != nullptr, QStringLiteral("button idx out of range: %1!!").arg(buttonIdx)))
         return;
-    const QSize size = ButtonLayoutConfig::iconSize(m_layout);
+    button->setPixmap(composeKeyIcon(icon, ButtonLayoutConfig::iconSize(m_layout), selected));
+}
+
+QPixmap KeyItemGridView::composeKeyIcon(const QPixmap& icon, const QSize& size, bool selected)
+{
     QPixmap composed(size);
     composed.fill(Qt::black);
     QPainter painter(&composed);
@@ -267,7 +271,7 @@ void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
         painter.drawRect(QRectF(composed.rect()).adjusted(inset, inset, -inset, -inset));
     }
     painter.end();
-    button->setPixmap(composed);
+    return composed;
 }
 
 void KeyItemGridView::showKey(int idx, const KeyItem* item, bool framed)
