@@ -277,6 +277,11 @@ void Favorite::updatefavoriteGridView()
     m_usage->setText(tr("Usage: %1 / %2").arg(count).arg(MaxItems));
     m_usage->setStyleSheet(QLatin1String(count < MaxItems ? UsageStyle : UsageFullStyle));
     m_reset->setEnabled(count > 0);
+    // Tab reaches the favourites in order, then Reset.
+    for (int idx = 1; idx < count; ++idx)
+        setTabOrder(m_slots.at(idx - 1), m_slots.at(idx));
+    if (count > 0)
+        setTabOrder(m_slots.at(count - 1), m_reset);
     if (focused >= 0 && count > 0)
         focusSlot(qMin(focused, count - 1));
 }
