@@ -12,8 +12,6 @@
 
 #include <QSignalSpy>
 
-#include <thread>
-
 namespace {
 
 constexpr int Patience = 30000;
@@ -116,18 +114,9 @@ private slots:
         }
     }
 
-    void shouldStoreAndLoadItsSettingsInRange()
+    void shouldLoadDamagedSettingsInRange()
     {
         Settings store;
-        DimmingSettings settings;
-        settings.brightness = 70;
-        settings.dimAfterMinutes = 3;
-        settings.dimLevel = 5;
-        settings.offWhileLocked = true;
-        settings.store(&store);
-        QCOMPARE(store.value(SettingsKeys::DimAfterMinutes).toInt(), 3);
-        QCOMPARE(DimmingSettings::load(&store), settings);
-
         store.setValue(SettingsKeys::Brightness, 400);
         store.setValue(SettingsKeys::DimLevel, QStringLiteral("dark"));
         store.setValue(SettingsKeys::DimAfterMinutes, -2);
@@ -150,19 +139,6 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(fast.isDimmed(), Patience);
         QCOMPARE(sent.last().at(0).toInt(), 7);
         QVERIFY(!fast.isIdleTimerActive());
-    }
-
-    // Presses come on the key action thread while the GUI thread dims.
-    void shouldTakeAPressFromAnotherThread()
-    {
-        run("set 1 10 80 0");
-        run("idle 60000");
-        bool taken = false;
-        std::thread keys([&] { taken = dimmer->takeKeyPress(9); });
-        keys.join();
-        QVERIFY(taken);
-        run("level 80");
-        QVERIFY(dimmer->isIdleTimerActive());
     }
 
     // The whole road: a dimmed simulated keypad, a press on it that only

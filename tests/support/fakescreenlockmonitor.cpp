@@ -1,32 +1,15 @@
 #include "fakescreenlockmonitor.h"
 
-FakeScreenLockMonitor::FakeScreenLockMonitor(bool available, QObject* parent)
-    : ScreenLockMonitor(parent), m_available(available)
-{
-}
-
-bool FakeScreenLockMonitor::available() const
-{
-    return m_available;
-}
-
-bool FakeScreenLockMonitor::isLocked() const
-{
-    return m_locked;
-}
+#include <utility>
 
 void FakeScreenLockMonitor::setAvailable(bool available)
 {
-    if (available == m_available)
-        return;
-    m_available = available;
-    emit availableChanged(available);
+    if (std::exchange(m_available, available) != available)
+        emit availableChanged(available);
 }
 
 void FakeScreenLockMonitor::setLocked(bool locked)
 {
-    if (locked == m_locked)
-        return;
-    m_locked = locked;
-    emit lockedChanged(locked);
+    if (std::exchange(m_locked, locked) != locked)
+        emit lockedChanged(locked);
 }

@@ -2,22 +2,18 @@
 
 #include "screenlockmonitor.h"
 
-// A screen lock monitor the test drives: it locks, unlocks and becomes
-// available when told.
+// A screen lock monitor the test drives.
 class FakeScreenLockMonitor : public ScreenLockMonitor
 {
     Q_OBJECT
 
 public:
-    explicit FakeScreenLockMonitor(bool available = true, QObject* parent = nullptr);
-
-    bool available() const override;
-    bool isLocked() const override;
-
+    bool available() const override { return m_available; }
+    bool isLocked() const override { return m_locked; }
     void setAvailable(bool available);
     void setLocked(bool locked);
 
 private:
-    bool m_available;
+    bool m_available = true;
     bool m_locked = false;
 };
