@@ -1,6 +1,8 @@
 #include "agentcore.h"
 
 #include "buttonlayoutconfig.h"
+#include "dbusscreenlockmonitor.h"
+#include "dimmingsettings.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
 #include "hid_comm.h"
@@ -8,6 +10,7 @@
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keypaddimmer.h"
 #include "keypadmonitor.h"
 #include "keypadstatus.h"
 #include "keypadusbids.h"
@@ -32,6 +35,7 @@ AgentCore::AgentCore(QObject* parent) : QObject(parent), m_windowSystem(WindowSy
     createModel();
     createDevice();
     createRuntime();
+    createDimming();
 }
 
 AgentCore::~AgentCore()
@@ -74,10 +78,7 @@ void AgentCore::createDevice()
             Qt::DirectConnection);
 
     m_keypadStatus = new KeypadStatus(m_hidComm.get(), this);
-    connect(m_keypadStatus, &KeypadStatus::keypadOpened, this, [this] {
-        applyBrightness();
-        UpdateDevIcon::updateAllIcon();
-    });
+    connect(m_keypadStatus, &KeypadStatus::keypadOpened, this, [] { UpdateDevIcon::updateAllIcon(); });
 
     m_keypadMonitor = new KeypadMonitor(keypadUsbIds(), this);
     connect(m_keypadMonitor, &KeypadMonitor::keypadArrived, m_hidComm.get(), &Hid_Comm::onKeyboardWasAdded);
@@ -112,6 +113,19 @@ void AgentCore::createRuntime()
     m_folderCondition = new FolderCondition(FolderConditionIntervalMs, this);
 }
 
+// The backlight follows the dimming rules; the press that wakes a dimmed
+// keypad never reaches an action.
+void AgentCore::createDimming()
+{
+    m_screenLock = new DBusScreenLockMonitor(this);
+    m_dimmer = new KeypadDimmer(this);
+    connect(m_dimmer, &KeypadDimmer::backlightChanged, m_hidComm.get(), &Hid_Comm::setBacklight);
+    connect(m_keypadStatus, &KeypadStatus::keypadOpened, m_dimmer, &KeypadDimmer::reapply);
+    connect(m_screenLock, &ScreenLockMonitor::lockedChanged, m_dimmer, &KeypadDimmer::setLocked);
+    m_dimmer->setSettings(DimmingSettings::load(m_store));
+    m_keyAction->setKeyEventFilter(m_dimmer);
+}
+
 void AgentCore::stop()
 {
     if (m_folderCondition)
@@ -133,17 +147,6 @@ void AgentCore::onButtonLayoutChanged(int layout)
     m_keyItemModel->changeLayoutButtonView(KeyLayout(layout));
     m_store->setValue(SettingsKeys::LastKbLayout, layout);
     LOG_MSG(QStringLiteral("layout: %1").arg(ButtonLayoutConfig::layoutName(layout)));
-}
-
-// Every keypad that connects takes the brightness the user chose.
-void AgentCore::applyBrightness()
-{
-    if (!m_hidComm)
-        return;
-    const int level = qBound(SettingsKeys::BrightnessMin,
-                             m_store->value(SettingsKeys::Brightness, SettingsKeys::BrightnessDefault).toInt(),
-                             SettingsKeys::BrightnessMax);
-    m_hidComm->setBacklight(level);
 }
 
 // A null item stands for the whole page (a folder opened, a layout change).
@@ -203,4 +206,14 @@ KeyAction* AgentCore::keyAction() const
 TaskProxy* AgentCore::taskProxy() const
 {
     return m_taskProxy.get();
+}
+
+ScreenLockMonitor* AgentCore::screenLockMonitor() const
+{
+    return m_screenLock;
+}
+
+KeypadDimmer* AgentCore::keypadDimmer() const
+{
+    return m_dimmer;
 }

@@ -11,9 +11,11 @@ class Hid_Comm;
 class KeyAction;
 class KeyItem;
 class KeyItemModel;
+class KeypadDimmer;
 class KeypadMonitor;
 class KeypadStatus;
 class RuntimeActionServices;
+class ScreenLockMonitor;
 class Settings;
 class SleepMonitor;
 class TaskProxy;
@@ -24,7 +26,7 @@ class WindowSystem;
 // keypad connection with its arrival, removal, sleep and status watchers,
 // and the action runtime (key action thread, task worker, folder
 // conditions, keystroke services), and keeps the keypad's images in step
-// with the model. It enters the shared objects into the object registry and
+// with the model and its backlight with the dimming rules. It enters the shared objects into the object registry and
 // takes them out again; the main window, which owns it, adds the widgets.
 class AgentCore : public QObject
 {
@@ -54,14 +56,16 @@ public:
     Hid_Comm* hidComm() const;
     KeyAction* keyAction() const;
     TaskProxy* taskProxy() const;
+    ScreenLockMonitor* screenLockMonitor() const;
+    KeypadDimmer* keypadDimmer() const;
 
 private:
     void createModel();
     void createDevice();
     void createRuntime();
+    void createDimming();
     void onButtonLayoutChanged(int layout);
     void onModelContentChanged(const KeyItem* item);
-    void applyBrightness();
 
     std::unique_ptr<WindowSystem> m_windowSystem;
     Settings* m_store = nullptr;
@@ -76,4 +80,6 @@ private:
     std::unique_ptr<RuntimeActionServices> m_actionServices;
     std::unique_ptr<KeyAction> m_keyAction;
     FolderCondition* m_folderCondition = nullptr;
+    ScreenLockMonitor* m_screenLock = nullptr;
+    KeypadDimmer* m_dimmer = nullptr;
 };

@@ -6,6 +6,7 @@
 #include "clicklabel.h"
 #include "dialog.h"
 #include "editorfocus.h"
+#include "favorite.h"
 #include "favoritekeyitemmodel.h"
 #include "foldercondition.h"
 #include "formarea.h"
@@ -199,6 +200,7 @@ void MainWindow::buildEditor()
     column->addWidget(m_formArea, 3);
     column->addWidget(m_treeView, 2);
     m_editorFocus = new EditorFocus({m_grid, m_actionList, m_formArea, m_treeView, m_titleBar}, this);
+    m_favorite = new Favorite(favorites(), this);
 
     connectEditor();
     m_grid->changeLayoutButtonView(KeyLayout(layoutConfig()->currentLayout()));
@@ -230,14 +232,31 @@ void MainWindow::connectEditor()
     connect(m_grid, &KeyItemGridView::buttonIdxChanged, this, &MainWindow::onKeySelected);
     connect(m_grid, &KeyItemGridView::closeFunctionDescription, m_formArea, &FormArea::closeFunctionDescription);
     connect(m_treeView, &TreeView::treeItemChanged, m_grid, &KeyItemGridView::onTreeItemChanged);
-    m_grid->setFavoriteInserter([this](const KeyItem* item) { return favorites()->appendKeyItem(item); });
+    connectFavorites();
 
     connect(m_actionList, &ActionList::actionItemSelected, this, [this](int actionType) {
         if (actionType >= 0)
             showFunctionDescription(actionType, true);
     });
-    connect(m_actionList, &ActionList::favoriteWindowRequested, this,
-            [] { LOG_MSG(QStringLiteral("My Favorite window requested")); });
+    connect(m_actionList, &ActionList::favoriteWindowRequested, m_favorite, &Favorite::bringWindowToFront);
+}
+
+// "&Save as favorite" shows the new item at the end of the pad; Enter on a
+// favourite puts it on the selected key, as a drop there would.
+void MainWindow::connectFavorites()
+{
+    m_grid->setFavoriteInserter([this](const KeyItem* item) {
+        const bool kept = m_favorite->insertKeyItem(item);
+        m_favorite->moveScrollbarToBottom();
+        return kept;
+    });
+    connect(m_favorite, &Favorite::favoriteActivated, m_grid, [this](const KeyItem* item) {
+        m_grid->controller_dropKeyItemFromFavoriteGridView(item, m_grid->selectedKeyIdx());
+    });
+    connect(m_favorite, &Favorite::visibilityChanged, m_actionList, [this](bool visible) {
+        if (!visible)
+            m_actionList->cancelSelectedFavoriteButton();
+    });
 }
 
 // What the core does shows in the editor: faces flipped from the keypad, the
@@ -401,6 +420,8 @@ void MainWindow::setupPreferences()
     context.layouts = layoutConfig();
     context.keyModel = keyItemModel();
     context.hid = m_core->hidComm();
+    context.dimmer = m_core->keypadDimmer();
+    context.screenLock = m_core->screenLockMonitor();
     context.runInBackground = BackgroundTask::onTaskProxy(m_core->taskProxy());
     context.redrawKeypad = [] { UpdateDevIcon::updateAllIcon(); };
     context.importFile = [this](const QString& path) { openExtensionFile(path); };
@@ -448,6 +469,11 @@ KeyItemGridView* MainWindow::keyGrid() const
 ActionList* MainWindow::actionList() const
 {
     return m_actionList;
+}
+
+Favorite* MainWindow::favoriteWindow() const
+{
+    return m_favorite;
 }
 
 FormArea* MainWindow::formArea() const
@@ -580,6 +606,7 @@ void MainWindow::quitApplication()
     if (m_settings)
         m_settings->sync();
     m_tray->setVisible(false);
+    m_favorite->hide();
     close();
     QCoreApplication::quit();
 }
@@ -604,6 +631,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::hideToBackground()
 {
+    m_favorite->hide();
     // Without a tray host a hidden window could not be reached again.
     if (TrayIcon::isTrayAvailable())
         hide();

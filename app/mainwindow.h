@@ -10,6 +10,7 @@ class ActionList;
 class AgentCore;
 class ButtonLayoutConfig;
 class EditorFocus;
+class Favorite;
 class FavoriteKeyItemModel;
 class FormArea;
 class IPC_Thread;
@@ -58,6 +59,7 @@ public:
     KeyItemGridView* keyGrid() const;
     ActionList* actionList() const;
     FormArea* formArea() const;
+    Favorite* favoriteWindow() const;
     TreeView* treeView() const;
     VirtualKeypad* virtualKeypad() const;
     // The preference dialog's opener (Settings in the palette and the tray).
@@ -98,6 +100,7 @@ private:
     void buildWindow();
     void buildEditor();
     void connectEditor();
+    void connectFavorites();
     void connectCore();
     void onKeySelected(int keyIdx);
     void watchForegroundApplications(bool background);
@@ -125,6 +128,7 @@ private:
     FormArea* m_formArea = nullptr;
     TreeView* m_treeView = nullptr;
     EditorFocus* m_editorFocus = nullptr;
+    Favorite* m_favorite = nullptr;
     QLabel* m_statusLine = nullptr;
     TrayIcon* m_tray = nullptr;
     VirtualKeypad* m_virtualKeypad = nullptr;

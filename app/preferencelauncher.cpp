@@ -1,6 +1,7 @@
 #include "preferencelauncher.h"
 
 #include "aboutpage.h"
+#include "dimmingpage.h"
 #include "firmwarepage.h"
 #include "importexportpage.h"
 #include "keypadpage.h"
@@ -40,6 +41,8 @@ PreferenceDialog* PreferenceLauncher::open()
 void PreferenceLauncher::addPages(PreferenceDialog* dialog)
 {
     dialog->addPage(new KeypadPage(m_context));
+    if (m_context.dimmer)
+        dialog->addPage(new DimmingPage(m_context.dimmer, m_context.screenLock, m_context.store));
     dialog->addPage(new LayoutPage(m_context));
     dialog->addPage(new LanguagePage(m_context));
     dialog->addPage(new ImportExportPage(m_context));

@@ -13,11 +13,13 @@
 namespace {
 
 // A copy through the stored form keeps the item's own layout, which
-// assignment would replace by the one in force.
+// assignment would replace by the one in force. A favourite sits on no page
+// and no key.
 KeyItem* copyKeepingLayout(const QVariantMap& map)
 {
     auto* item = new KeyItem;
     map >> *item;
+    item->keyIdx = -1;
     item->parent = nullptr;
     item->ownerList = nullptr;
     return item;

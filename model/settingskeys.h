@@ -60,4 +60,12 @@ constexpr int BrightnessDefault = 100;
 // Software update: whether the program may ask the release feed (bool, default false).
 constexpr QLatin1String CheckForUpdates = literal("check_for_updates");
 
+// Keypad dimming; the level it dims from is Brightness above.
+// Minutes without a key press before the keypad dims; 0: never.
+constexpr QLatin1String DimAfterMinutes = literal("dim_after_minutes");
+// The dimmed level, 0..100.
+constexpr QLatin1String DimLevel = literal("dim_level");
+// Backlight off while the screen is locked (bool).
+constexpr QLatin1String OffWhileLocked = literal("off_while_locked");
+
 } // namespace SettingsKeys

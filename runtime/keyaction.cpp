@@ -3,6 +3,7 @@
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
 #include "keyactionabstr.h"
+#include "keyeventfilter.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
@@ -66,9 +67,19 @@ int KeyAction::buttonIndex(int layout, int devKeyId)
     return KeypadTable::buttonIndex(layout, devKeyId);
 }
 
+void KeyAction::setKeyEventFilter(KeyEventFilter* filter)
+{
+    m_filter.store(filter);
+}
+
 void KeyAction::onKeyPressed(int devKeyId)
 {
     LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
+    KeyEventFilter* filter = m_filter.load();
+    if (filter && filter->takeKeyPress(devKeyId)) {
+        LOG_MSG(QStringLiteral("press taken before dispatch"));
+        return;
+    }
     const int layout = currentLayout();
     if (!ButtonLayoutConfig::isValidLayout(layout)) {
         LOG_MSG(QStringLiteral("layoutType out of range!!!"));
@@ -97,6 +108,9 @@ void KeyAction::onKeyPressed(int devKeyId)
 void KeyAction::onKeyRleased(int devKeyId)
 {
     LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
+    KeyEventFilter* filter = m_filter.load();
+    if (filter && filter->takeKeyRelease(devKeyId))
+        return;
     const int layout = currentLayout();
     if (!ButtonLayoutConfig::isValidLayout(layout)) {
         LOG_MSG(QStringLiteral("layoutType out of range!!!"));

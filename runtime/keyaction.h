@@ -3,6 +3,9 @@
 #include <QObject>
 #include <QThread>
 
+#include <atomic>
+
+class KeyEventFilter;
 class KeyItem;
 
 // Turns the keypad's key events into actions. It lives on a thread of its
@@ -18,6 +21,9 @@ public:
 
     // The button of the current page under a device key id, -1 for none.
     static int buttonIndex(int layout, int devKeyId);
+    // Sees every key event first and may take it (null: none). It must
+    // outlive this object or be removed first.
+    void setKeyEventFilter(KeyEventFilter* filter);
 
 signals:
     void updateContent(const KeyItem* keyItem);
@@ -28,4 +34,5 @@ public slots:
 
 private:
     QThread m_thread;
+    std::atomic<KeyEventFilter*> m_filter{nullptr};
 };

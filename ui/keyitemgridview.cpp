@@ -261,7 +261,12 @@ void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
     QLabel* button = keyButton(buttonIdx);
     if (!logMsgWhenRetFail(button != nullptr, QStringLiteral("button idx out of range: %1!!").arg(buttonIdx)))
         return;
-    QPixmap composed = KeyButtonImage::compose(icon, ButtonLayoutConfig::iconSize(m_layout));
+    button->setPixmap(composeKeyIcon(icon, ButtonLayoutConfig::iconSize(m_layout), selected));
+}
+
+QPixmap KeyItemGridView::composeKeyIcon(const QPixmap& icon, const QSize& size, bool selected)
+{
+    QPixmap composed = KeyButtonImage::compose(icon, size);
     QPainter painter(&composed);
     if (selected) {
         // Inside the key's own square: the grid spacing stays the same and
@@ -274,7 +279,7 @@ void KeyItemGridView::setButtonIcon(int buttonIdx, QPixmap& icon, bool selected)
         painter.drawRect(QRectF(composed.rect()).adjusted(inset, inset, -inset, -inset));
     }
     painter.end();
-    button->setPixmap(composed);
+    return composed;
 }
 
 void KeyItemGridView::showKey(int idx, const KeyItem* item, bool framed)

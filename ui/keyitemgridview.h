@@ -54,6 +54,9 @@ public:
     const KeyItem* clipboardItem() const;
     KeyGridContextMenu* contextMenu() const;
     static QSize gridShape(int layout);
+    // A key's face as the grid shows it: the icon scaled onto a black square
+    // of the given size, framed when selected. My Favorite shows its items so.
+    static QPixmap composeKeyIcon(const QPixmap& icon, const QSize& size, bool selected);
 
     // The key whose button contains pos (view coordinates), -1 for none.
     int keyIdxAt(const QPoint& pos) const;

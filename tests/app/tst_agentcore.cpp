@@ -1,6 +1,7 @@
 #include "agentcore.h"
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
+#include "keypaddimmer.h"
 #include "keypadstatus.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -78,19 +79,18 @@ private slots:
         QCOMPARE(opened.size(), 1);
     }
 
-    // Every keypad that connects gets the page and the chosen brightness.
+    // Every keypad that connects gets the page and the brightness last chosen.
     void shouldShowThePageOnEveryKeypadThatConnects_data()
     {
-        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<int>("chosen");
         QTest::addColumn<int>("level");
-        QTest::newRow("chosen") << QVariant(37) << 37;
-        QTest::newRow("never chosen") << QVariant() << 100;
-        QTest::newRow("out of range") << QVariant(250) << 100;
+        QTest::newRow("chosen") << 37 << 37;
+        QTest::newRow("out of range") << 250 << 100;
     }
 
     void shouldShowThePageOnEveryKeypadThatConnects()
     {
-        QFETCH(QVariant, stored);
+        QFETCH(int, chosen);
         QFETCH(int, level);
         QFile::remove(Settings().fileName());
         AgentCore core;
@@ -100,10 +100,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_keypad->keysWithImages().size(), keys, WaitMs);
         QTRY_COMPARE_WITH_TIMEOUT(m_keypad->backlight(), 100, WaitMs);
 
-        if (stored.isValid())
-            core.settingsStore()->setValue(SettingsKeys::Brightness, stored);
-        else
-            core.settingsStore()->remove(SettingsKeys::Brightness);
+        core.keypadDimmer()->noteBrightness(chosen);
         m_keypad->unplug();
         QTRY_COMPARE_WITH_TIMEOUT(core.keypadStatus()->state(), KeypadStatus::Absent, WaitMs);
         m_keypad->plugIn();

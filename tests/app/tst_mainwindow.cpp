@@ -1,7 +1,11 @@
+#include "actionlist.h"
 #include "dialog.h"
+#include "favorite.h"
+#include "favoritekeyitemmodel.h"
 #include "formarea.h"
 #include "ipc_thread.h"
 #include "ka_paststring.h"
+#include "keygridcontextmenu.h"
 #include "keyitem.h"
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
@@ -11,6 +15,7 @@
 #include "testmain.h"
 #include "virtualkey.h"
 
+#include <QLabel>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTranslator>
@@ -102,6 +107,31 @@ private slots:
         window.bringWindowToFront();
         QVERIFY(window.isVisible());
         QVERIFY(!window.isMinimized());
+    }
+
+    // The palette's My Favorite button brings the window up, "&Save as
+    // favorite" fills it, and it goes away with the editor.
+    void shouldShowMyFavoriteAndGoWithTheEditor()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        emit window.actionList()->favoriteWindowRequested();
+        Favorite* favorite = window.favoriteWindow();
+        QVERIFY(favorite->isVisible());
+
+        KeyItemModel* model = window.keyItemModel();
+        if (!model->keyItemAt(2))
+            QVERIFY(model->createKeyAction(2, KAT_PASTE_STRING));
+        const int before = window.favorites()->count();
+        QVERIFY(window.keyGrid()->updateContextMenuActions(2));
+        window.keyGrid()->contextMenu()->action(KeyGridContextMenu::SaveAsFavorite)->trigger();
+        QCOMPARE(window.favorites()->count(), before + 1);
+        QCOMPARE(favorite->usageLabel()->text(), QStringLiteral("Usage: %1 / 60").arg(before + 1));
+
+        QVERIFY(!window.close());
+        QVERIFY(!favorite->isVisible());
     }
 
     void shouldStartInTheBackgroundWhenAsked()

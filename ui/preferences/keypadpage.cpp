@@ -3,6 +3,7 @@
 #include "brightnessthrottle.h"
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
+#include "keypaddimmer.h"
 #include "keypadtable.h"
 #include "logging.h"
 #include "preferencelook.h"
@@ -147,6 +148,9 @@ void KeypadPage::onBrightnessChanged(int level)
         m_context.store->setValue(SettingsKeys::Brightness, level);
         m_saveTimer.start();
     }
+    // The dimmer comes back to this level after dimming and after a lock.
+    if (m_context.dimmer)
+        m_context.dimmer->noteBrightness(level);
     if (m_hid && m_hid->isOpened())
         m_throttle->setLevel(level);
 }

@@ -8,8 +8,10 @@
 
 class ButtonLayoutConfig;
 class Hid_Comm;
+class KeypadDimmer;
 class KeyItemModel;
 class QSettings;
+class ScreenLockMonitor;
 class Settings;
 
 // What the preference pages work on, handed in by whoever opens the dialog:
@@ -25,6 +27,9 @@ struct PreferenceContext
     KeyItemModel* keyModel = nullptr;
     // The keypad connection; null without one.
     Hid_Comm* hid = nullptr;
+    // The backlight's rules (dimming, dark while locked) and the lock they follow.
+    KeypadDimmer* dimmer = nullptr;
+    ScreenLockMonitor* screenLock = nullptr;
     // Where device calls run; empty: on the GUI thread.
     BackgroundRunner runInBackground;
     // Puts the current page's images back on the keypad.
