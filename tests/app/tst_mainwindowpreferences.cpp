@@ -106,8 +106,8 @@ private slots:
         QStringList titles;
         for (int i = 0; i < dialog->pageCount(); ++i)
             titles << dialog->page(i)->title();
-        QCOMPARE(titles, (QStringList{"Keypad", "Layout", "Language", "Import and export", "Reset", "Start at login",
-                                      "About"}));
+        QCOMPARE(titles, (QStringList{"Keypad", "Dimming", "Layout", "Language", "Import and export", "Reset",
+                                      "Start at login", "Firmware", "Software update", "About"}));
 
         m_window->findChild<TrayIcon*>()->settingsAction()->trigger();
         QCOMPARE(m_window->preferences()->dialog(), dialog);
