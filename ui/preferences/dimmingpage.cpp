@@ -3,6 +3,7 @@
 #include "dimmingsettings.h"
 #include "keypaddimmer.h"
 #include "logging.h"
+#include "preferencelook.h"
 #include "screenlockmonitor.h"
 #include "settings.h"
 
@@ -73,7 +74,7 @@ QLabel* DimmingPage::lockNote() const
 
 void DimmingPage::buildPage()
 {
-    auto* page = new QVBoxLayout(this);
+    QVBoxLayout* page = PreferenceLook::pageLayout(this, title());
     page->setSpacing(10);
 
     // "Dim the keypad after [5] minutes without a key press", one sentence.

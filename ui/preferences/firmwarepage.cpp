@@ -1,5 +1,7 @@
 #include "firmwarepage.h"
 
+#include "preferencelook.h"
+
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -52,7 +54,7 @@ FirmwarePage::FirmwarePage(QWidget* parent) : PreferencePage(parent), m_updater(
     m_result = new QLabel(this);
     m_result->setWordWrap(true);
 
-    auto* layout = new QVBoxLayout(this);
+    QVBoxLayout* layout = PreferenceLook::pageLayout(this, title());
     layout->addWidget(intro);
     layout->addLayout(form);
     layout->addWidget(m_status);

@@ -1,5 +1,7 @@
 #include "softwareupdatepage.h"
 
+#include "preferencelook.h"
+
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -29,7 +31,7 @@ QLabel* wrappingLabel(QWidget* parent)
 SoftwareUpdatePage::SoftwareUpdatePage(SoftwareUpdate* update, QWidget* parent)
     : PreferencePage(parent), m_update(update ? update : new SoftwareUpdate(SoftwareUpdate::buildFeedUrl(), this))
 {
-    auto* layout = new QVBoxLayout(this);
+    QVBoxLayout* layout = PreferenceLook::pageLayout(this, title());
     m_intro = wrappingLabel(this);
     layout->addWidget(m_intro);
     if (!m_update->hasFeed()) {
