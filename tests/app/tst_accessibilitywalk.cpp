@@ -8,6 +8,7 @@
 #include "keyitemform.h"
 #include "keyitemgridview.h"
 #include "mainwindow.h"
+#include "privatebus.h"
 #include "startup.h"
 #include "testmain.h"
 
@@ -21,7 +22,6 @@
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
@@ -120,8 +120,8 @@ private slots:
         const QString launcher = findProgram(QStringLiteral("at-spi-bus-launcher"));
         if (daemon.isEmpty() || launcher.isEmpty())
             QSKIP("dbus-daemon or at-spi2-core's at-spi-bus-launcher is not installed");
-        QVERIFY(m_busDir.isValid());
-        startSessionBus(daemon);
+        m_sessionAddress = m_sessionBus.start(daemon);
+        QVERIFY2(!m_sessionAddress.isEmpty(), "dbus-daemon printed no address");
         startAccessibilityBus(launcher);
         startEditor();
     }
@@ -130,7 +130,7 @@ private slots:
     {
         stop(m_editor);
         stop(m_launcher);
-        stop(m_daemon);
+        m_sessionBus.stop();
         QDBusConnection::disconnectFromBus(QStringLiteral("walker-a11y"));
         QDBusConnection::disconnectFromBus(QStringLiteral("walker-session"));
     }
@@ -171,22 +171,6 @@ private slots:
     }
 
 private:
-    void startSessionBus(const QString& program)
-    {
-        m_daemon.setProgram(program);
-        m_daemon.setArguments({QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                               QStringLiteral("--nosyslog"), QStringLiteral("--print-address"),
-                               QStringLiteral("--address=unix:dir=") + m_busDir.path()});
-        m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_daemon.start();
-        QVERIFY2(m_daemon.waitForStarted(Patience), qPrintable(m_daemon.errorString()));
-        const QDeadlineTimer deadline(Patience);
-        while (!m_daemon.canReadLine() && m_daemon.state() == QProcess::Running && !deadline.hasExpired())
-            m_daemon.waitForReadyRead(int(deadline.remainingTime()));
-        m_sessionAddress = QString::fromUtf8(m_daemon.readLine()).trimmed();
-        QVERIFY2(!m_sessionAddress.isEmpty(), "dbus-daemon printed no address");
-    }
-
     // The launcher owns org.a11y.Bus on the session bus and hands out the
     // address of the accessibility bus it runs.
     void startAccessibilityBus(const QString& program)
@@ -338,8 +322,7 @@ private:
         return nodes;
     }
 
-    QTemporaryDir m_busDir;
-    QProcess m_daemon;
+    PrivateBus m_sessionBus;
     QProcess m_launcher;
     QProcess m_editor;
     QString m_sessionAddress;

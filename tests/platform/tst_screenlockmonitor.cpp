@@ -2,17 +2,14 @@
 // system bus and the session bus, with the test playing systemd-logind and
 // the desktop's screen saver.
 #include "dbusscreenlockmonitor.h"
+#include "privatebus.h"
 #include "testmain.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDeadlineTimer>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -20,30 +17,6 @@ namespace {
 
 constexpr int Patience = 30000;
 const QString SessionPath = QStringLiteral("/org/freedesktop/login1/session/_3");
-
-// A dbus-daemon of the test's own; start() gives its address, empty on failure.
-struct PrivateBus
-{
-    QTemporaryDir dir;
-    QProcess daemon;
-
-    QString start(const QString& program)
-    {
-        daemon.start(program, {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                               QStringLiteral("--nosyslog"), QStringLiteral("--print-address"),
-                               QStringLiteral("--address=unix:dir=") + dir.path()});
-        const QDeadlineTimer deadline(Patience);
-        while (!daemon.canReadLine() && daemon.waitForReadyRead(int(deadline.remainingTime())))
-            ;
-        return QString::fromUtf8(daemon.readLine()).trimmed();
-    }
-
-    ~PrivateBus()
-    {
-        daemon.kill();
-        daemon.waitForFinished(Patience);
-    }
-};
 
 } // namespace
 
@@ -150,11 +123,10 @@ class ScreenLockMonitorTest : public QObject
 private slots:
     void initTestCase()
     {
-        const QString program = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-        if (program.isEmpty())
+        if (PrivateBus::daemonProgram().isEmpty())
             QSKIP("dbus-daemon is not installed");
-        m_systemAddress = m_system.start(program);
-        m_sessionAddress = m_session.start(program);
+        m_systemAddress = m_system.start();
+        m_sessionAddress = m_session.start();
         QVERIFY2(!m_systemAddress.isEmpty() && !m_sessionAddress.isEmpty(), "dbus-daemon printed no address");
     }
 

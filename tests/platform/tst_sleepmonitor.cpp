@@ -1,16 +1,13 @@
 // Runs against a private dbus-daemon of its own, standing in for the system
 // bus, with the test itself playing systemd-logind.
 #include "logcapture.h"
+#include "privatebus.h"
 #include "sleepmonitor.h"
 #include "testmain.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDeadlineTimer>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -35,28 +32,10 @@ class SleepMonitorTest : public QObject
 private slots:
     void initTestCase()
     {
-        const QString program = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-        if (program.isEmpty())
+        if (PrivateBus::daemonProgram().isEmpty())
             QSKIP("dbus-daemon is not installed");
-        QVERIFY(m_busDir.isValid());
-        m_daemon.setProgram(program);
-        m_daemon.setArguments({QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                               QStringLiteral("--nosyslog"), QStringLiteral("--print-address"),
-                               QStringLiteral("--address=unix:dir=") + m_busDir.path()});
-        m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_daemon.start();
-        QVERIFY2(m_daemon.waitForStarted(Patience), qPrintable(m_daemon.errorString()));
-        const QDeadlineTimer deadline(Patience);
-        while (!m_daemon.canReadLine() && m_daemon.state() == QProcess::Running && !deadline.hasExpired())
-            m_daemon.waitForReadyRead(int(deadline.remainingTime()));
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
+        m_address = m_bus.start();
         QVERIFY2(!m_address.isEmpty(), "dbus-daemon printed no address");
-    }
-
-    void cleanupTestCase()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished(Patience);
     }
 
     void cleanup()
@@ -109,8 +88,7 @@ private slots:
     {
         LogCapture capture;
         m_connections.append(QStringLiteral("nowhere"));
-        SleepMonitor monitor(QDBusConnection::connectToBus(
-            QStringLiteral("unix:path=") + m_busDir.filePath(QStringLiteral("no-such-bus")), m_connections.last()));
+        SleepMonitor monitor(QDBusConnection::connectToBus(m_bus.deadAddress(), m_connections.last()));
         QVERIFY(!monitor.isActive());
         QCOMPARE(capture.matching(QStringLiteral("suspend and resume go unnoticed")).size(), 1);
     }
@@ -125,8 +103,7 @@ private:
         return connection;
     }
 
-    QTemporaryDir m_busDir;
-    QProcess m_daemon;
+    PrivateBus m_bus;
     QString m_address;
     QStringList m_connections;
 };
