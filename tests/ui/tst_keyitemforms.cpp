@@ -26,10 +26,12 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -60,6 +62,19 @@ private:
     KeypadFixture fixture;
     std::unique_ptr<FormArea> area;
     QStringList dialogLog;
+    QTemporaryDir iconDir;
+
+    // The chosen application's icon: a red square.
+    QString iconFile()
+    {
+        const QString path = iconDir.filePath(QStringLiteral("editor.png"));
+        if (!QFileInfo::exists(path)) {
+            QImage red(48, 48, QImage::Format_ARGB32);
+            red.fill(Qt::red);
+            red.save(path);
+        }
+        return path;
+    }
 
     KeyItem* item() const { return fixture.model->keyItemAt(Key); }
 
@@ -101,6 +116,7 @@ private:
             chosen->name = QStringLiteral("Text Editor");
             chosen->commandLine = QStringLiteral("gnome-text-editor --new-window");
             chosen->executable = QStringLiteral("/usr/bin/gnome-text-editor");
+            chosen->iconPath = iconFile();
             return accept;
         };
         runner.chooseBookmark = [this, hid, accept](QWidget*, Bookmark* chosen) {
@@ -356,7 +372,8 @@ private slots:
         QCOMPARE(item()->render[0].text, title);
     }
 
-    void shouldOfferTheApplicationsNameWithoutReplacingATitle()
+    // The icon, too, goes only where the user has not chosen a picture.
+    void shouldOfferTheApplicationsNameWithoutReplacingATitleAndTakeItsIcon()
     {
         installRunner(true);
         auto* form = showForm<LaunchForm>(KAT_EXE_APP_FILE);
@@ -368,6 +385,14 @@ private slots:
         QCOMPARE(item()->render[0].text, QStringLiteral("Text Editor"));
         QCOMPARE(form->titleField()->toPlainText(), QStringLiteral("Text Editor"));
         QVERIFY(!form->useNameButton()->isVisible());
+        const QImage taken = item()->render[0].userImg.toImage();
+        QCOMPARE(taken.pixelColor(taken.rect().center()), QColor(Qt::red));
+
+        QImage chosen(72, 72, QImage::Format_ARGB32);
+        chosen.fill(Qt::blue);
+        item()->render[0].userImg = item()->render[1].userImg = QPixmap::fromImage(chosen);
+        QTest::mouseClick(form->applicationButton(), Qt::LeftButton);
+        QCOMPARE(item()->render[0].userImg.toImage().pixelColor(36, 36), QColor(Qt::blue));
     }
 
     void shouldNameEveryControlAsItsLabelAndReachItByTab_data()

@@ -2,6 +2,7 @@
 
 #include "formdialogs.h"
 #include "ka_execute.h"
+#include "keyiconimage.h"
 #include "keyitem.h"
 #include "keyitemeditor.h"
 
@@ -108,8 +109,23 @@ void LaunchForm::chooseApplication()
         return;
     editor()->setPath(application.commandLine);
     offerName(application.name);
+    takeIcon(application);
     refresh();
-    emit applicationChosen(application);
+}
+
+// A key still showing the default picture takes the application's icon, as
+// the desktop shows it; a picture the user chose stays.
+void LaunchForm::takeIcon(const ApplicationEntry& application)
+{
+    const KeyItem* item = editor()->item();
+    if (!item || !item->render[0].userImg.isNull())
+        return;
+    const QIcon icon = application.icon();
+    if (icon.isNull())
+        return;
+    const QImage image = KeyIconImage::fitted(icon.pixmap(KeyIconImage::Size).toImage());
+    if (!image.isNull())
+        editor()->setIcon(0, image);
 }
 
 // An empty title takes the name at once; a title the user wrote is only

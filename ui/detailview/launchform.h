@@ -24,10 +24,6 @@ public:
     // A file as a command line: quoted when it holds a blank.
     static QString commandFor(const QString& path);
 
-signals:
-    // An application was chosen from the list; its icon may become the key's.
-    void applicationChosen(const ApplicationEntry& application);
-
 protected:
     void refreshFields(const KeyItem& item) override;
 
@@ -35,6 +31,7 @@ private:
     void chooseFile();
     void chooseApplication();
     void offerName(const QString& name);
+    void takeIcon(const ApplicationEntry& application);
 
     QLineEdit* m_command = nullptr;
     QPushButton* m_file = nullptr;
