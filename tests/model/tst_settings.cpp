@@ -1,5 +1,6 @@
 #include "logcapture.h"
 #include "objectregistry.h"
+#include "samplevalues.h"
 #include "settings.h"
 #include "settingsfilewriter.h"
 #include "settingskeys.h"
@@ -7,12 +8,8 @@
 
 #include <QBuffer>
 #include <QDataStream>
-#include <QDate>
 #include <QDir>
-#include <QFont>
-#include <QImage>
 #include <QImageWriter>
-#include <QPixmap>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -21,6 +18,9 @@
 #include <vector>
 
 namespace {
+
+using SampleValues::semiTransparentPixmap;
+using SampleValues::styledFont;
 
 const QString LoadSuccess = QStringLiteral("Log file not created: Load success!");
 const QString LoadReset = QStringLiteral("Log file not created: Load checkSum err, reset settings!");
@@ -109,25 +109,6 @@ QByteArray writtenByQSettings(QVariantMap tree)
     const QString path = dir.filePath(QStringLiteral("expected.conf"));
     QSettings(path, QSettings::NativeFormat).setValue(SettingsKeys::Inst, tree);
     return readFile(path);
-}
-
-QPixmap semiTransparentPixmap()
-{
-    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, qPremultiply(qRgba(x * 30, y * 30, 200, (x * 8 + y) * 3 + 5)));
-    }
-    return QPixmap::fromImage(image);
-}
-
-QFont styledFont()
-{
-    QFont font(QStringLiteral("DejaVu Sans"), 13);
-    font.setStyleName(QStringLiteral("Bold"));
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 1.5);
-    font.setCapitalization(QFont::SmallCaps);
-    return font;
 }
 
 // A key list of one text key with a styled face.
