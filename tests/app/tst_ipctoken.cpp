@@ -1,16 +1,9 @@
 #include "ipctoken.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QDir>
 #include <QStandardPaths>
-
-namespace {
-QByteArray fileContents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-} // namespace
 
 class IpcTokenTest : public QObject
 {
@@ -34,15 +27,15 @@ private slots:
     void shouldWriteTheContentsEachTokenCarries()
     {
         QVERIFY(sendIpcToken(TokenBringToFront));
-        QCOMPARE(fileContents(ipcTokenPath(TokenBringToFront)), QByteArray("vse"));
+        QCOMPARE(TestFiles::read(ipcTokenPath(TokenBringToFront)), QByteArray("vse"));
 
         const QString path = QStringLiteral("/tmp/Ünïcødé ファイル/layout.kslayout");
         QVERIFY(sendIpcToken(TokenOpenFile, path));
-        QCOMPARE(fileContents(ipcTokenPath(TokenOpenFile)), path.toUtf8());
+        QCOMPARE(TestFiles::read(ipcTokenPath(TokenOpenFile)), path.toUtf8());
 
         // A later request replaces an earlier one completely.
         QVERIFY(sendIpcToken(TokenOpenFile, QStringLiteral("/a")));
-        QCOMPARE(fileContents(ipcTokenPath(TokenOpenFile)), QByteArray("/a"));
+        QCOMPARE(TestFiles::read(ipcTokenPath(TokenOpenFile)), QByteArray("/a"));
     }
 
     void shouldRefuseUnknownTokens()
@@ -65,7 +58,7 @@ private slots:
 
         QVERIFY(!sendIpcToken(TokenOpenFile, QStringLiteral("/evil")));
         QVERIFY(!sendIpcToken(TokenBringToFront));
-        QCOMPARE(fileContents(victim), QByteArray("precious"));
+        QCOMPARE(TestFiles::read(victim), QByteArray("precious"));
         QVERIFY(!QFile::exists(elsewhere.path() + QStringLiteral("/not-yet")));
 
         QByteArray contents;

@@ -2,6 +2,7 @@
 #include "logcapture.h"
 #include "logging.h"
 #include "objectregistry.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -40,14 +41,6 @@ QList<ParsedEntry> parseEntries(const QString& text, bool* wellFormed)
         position = match.capturedEnd();
     }
     return entries;
-}
-
-QString readAll(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return QString();
-    return QString::fromUtf8(file.readAll());
 }
 
 } // namespace
@@ -92,7 +85,7 @@ private slots:
         QCOMPARE(notices.first(), QStringLiteral("Log file not created: Exceeded maximum number of logged lines (20) "
                                                  "removing log file ") +
                                       oldNames.first());
-        QCOMPARE(readAll(log.filePath()), QString());
+        QCOMPARE(QString::fromUtf8(TestFiles::read(log.filePath())), QString());
     }
 
     // Each entry is on disk at once (read through a second handle while the
@@ -119,7 +112,8 @@ private slots:
         QCOMPARE(logMsgWhenRetFail(false, QStringLiteral("keyItem is nullptr!!")), false);
 
         bool wellFormed = false;
-        const QList<ParsedEntry> entries = parseEntries(readAll(log.filePath()), &wellFormed);
+        const QList<ParsedEntry> entries =
+            parseEntries(QString::fromUtf8(TestFiles::read(log.filePath())), &wellFormed);
         QVERIFY(wellFormed);
         QCOMPARE(entries.size(), 3);
         const ParsedEntry& first = entries.at(0);
@@ -185,7 +179,8 @@ private slots:
             delete thread;
         }
         bool wellFormed = false;
-        const QList<ParsedEntry> entries = parseEntries(readAll(log.filePath()), &wellFormed);
+        const QList<ParsedEntry> entries =
+            parseEntries(QString::fromUtf8(TestFiles::read(log.filePath())), &wellFormed);
         QVERIFY(wellFormed);
         QCOMPARE(entries.size(), Threads * PerThread);
         for (const ParsedEntry& entry : entries)

@@ -13,7 +13,6 @@ KeyEventRecorder::KeyEventRecorder(Hid_Comm* hid)
     connect(
         hid, &Hid_Comm::KeyboardStatusChange, this,
         [this](bool isConnected) {
-            connected = isConnected;
             events.append(isConnected ? QStringLiteral("connected") : QStringLiteral("disconnected"));
         },
         Qt::QueuedConnection);

@@ -18,5 +18,4 @@ public:
     // "press 3", "release 3", "connected", "disconnected", in order.
     QStringList events;
     QStringList keyEvents() const;
-    bool connected = false;
 };

@@ -43,7 +43,7 @@ private slots:
     void shouldShowTheCurrentPageOnEveryKey()
     {
         QFETCH(int, layout);
-        useLayout(layout);
+        fx.useLayout(layout);
         const int keys = ButtonLayoutConfig::keyCount(layout);
         fx.model->resetCurrentKeyItemsToDefault();
         for (int key = 0; key < keys; key += 2) {
@@ -67,7 +67,7 @@ private slots:
 
     void shouldSendOneEditedKey()
     {
-        useLayout(H_Key_15);
+        fx.useLayout(H_Key_15);
         QVERIFY(fx.model->createKeyAction(3, KAT_PASTE_STRING));
         LogCapture capture;
         fx.keypad->clearReports();
@@ -90,7 +90,7 @@ private slots:
 
     void shouldSendNothingWithoutTheKeypadConnection()
     {
-        useLayout(H_Key_6);
+        fx.useLayout(H_Key_6);
         ObjectRegistry::unregisterObject(ComponentId::HidComm);
         fx.keypad->clearReports();
         QVERIFY(!UpdateDevIcon::updateAllIcon());
@@ -99,8 +99,6 @@ private slots:
     }
 
 private:
-    void useLayout(int layout) { fx.useLayout(layout); }
-
     KeypadFixture fx;
 };
 

@@ -1,18 +1,16 @@
 #include "logcapture.h"
 #include "objectregistry.h"
+#include "samplevalues.h"
 #include "settings.h"
 #include "settingsfilewriter.h"
 #include "settingskeys.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QBuffer>
 #include <QDataStream>
-#include <QDate>
 #include <QDir>
-#include <QFont>
-#include <QImage>
 #include <QImageWriter>
-#include <QPixmap>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -21,6 +19,9 @@
 #include <vector>
 
 namespace {
+
+using SampleValues::semiTransparentPixmap;
+using SampleValues::styledFont;
 
 const QString LoadSuccess = QStringLiteral("Log file not created: Load success!");
 const QString LoadReset = QStringLiteral("Log file not created: Load checkSum err, reset settings!");
@@ -40,18 +41,6 @@ QFileInfoList corruptCopies()
 {
     return QDir(QFileInfo(confPath()).absolutePath())
         .entryInfoList({QStringLiteral("Keystage.conf.corrupt-*")}, QDir::Files);
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
 }
 
 template <typename T>
@@ -108,26 +97,7 @@ QByteArray writtenByQSettings(QVariantMap tree)
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("expected.conf"));
     QSettings(path, QSettings::NativeFormat).setValue(SettingsKeys::Inst, tree);
-    return readFile(path);
-}
-
-QPixmap semiTransparentPixmap()
-{
-    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x)
-            image.setPixel(x, y, qPremultiply(qRgba(x * 30, y * 30, 200, (x * 8 + y) * 3 + 5)));
-    }
-    return QPixmap::fromImage(image);
-}
-
-QFont styledFont()
-{
-    QFont font(QStringLiteral("DejaVu Sans"), 13);
-    font.setStyleName(QStringLiteral("Bold"));
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 1.5);
-    font.setCapitalization(QFont::SmallCaps);
-    return font;
+    return TestFiles::read(path);
 }
 
 // A key list of one text key with a styled face.
@@ -256,15 +226,15 @@ private slots:
                               QPixmap::fromImage(image.toImage().convertToFormat(QImage::Format_RGB32)));
             settings.setValue(SettingsKeys::MyFavoriteItems, keyList(QStringLiteral("favourite")));
             QVERIFY(settings.save());
-            saved = readFile(confPath());
+            saved = TestFiles::read(confPath());
             QCOMPARE(saved, writtenByQSettings(settings.tree()));
             QVERIFY(settings.save()); // everything from what the first save kept
-            QCOMPARE(readFile(confPath()), saved);
+            QCOMPARE(TestFiles::read(confPath()), saved);
 
             image.fill(QColor(1, 2, 3));
             settings.setValue(QStringLiteral("image"), image);
             QVERIFY(settings.save());
-            saved = readFile(confPath());
+            saved = TestFiles::read(confPath());
             QCOMPARE(saved, writtenByQSettings(settings.tree()));
         }
         QVariantMap stored = onDisk(SettingsKeys::Inst).toMap();
@@ -276,7 +246,7 @@ private slots:
         QCOMPARE(reloaded->value(QStringLiteral("font")).value<QFont>().pointSize(), 13);
         QCOMPARE(reloaded->value(QStringLiteral("image")).value<QPixmap>().toImage().pixel(2, 2), qRgb(1, 2, 3));
         QVERIFY(reloaded->save());
-        QCOMPARE(readFile(confPath()), saved);
+        QCOMPARE(TestFiles::read(confPath()), saved);
         restart();
     }
 
@@ -293,13 +263,12 @@ private slots:
         QVERIFY(png != qtPng);
         QCOMPARE(variant.count(qtPng), 1);
         variant.replace(qtPng, png);
-        QVERIFY(QDir().mkpath(QFileInfo(confPath()).absolutePath()));
-        QVERIFY(writeFile(confPath(),
-                          "[General]\ninst=" + SettingsFileWriter::escapedValue("@Variant(" + variant + ')') + '\n'));
+        QVERIFY(TestFiles::write(
+            confPath(), "[General]\ninst=" + SettingsFileWriter::escapedValue("@Variant(" + variant + ')') + '\n'));
 
         auto settings = restart();
         QVERIFY(settings->save());
-        QCOMPARE(readFile(confPath()), writtenByQSettings(settings->tree()));
+        QCOMPARE(TestFiles::read(confPath()), writtenByQSettings(settings->tree()));
         QCOMPARE(restart()->value(QStringLiteral("image")).value<QPixmap>().toImage(), image.toImage());
     }
 
@@ -307,7 +276,7 @@ private slots:
     void shouldKeepAndMergeTheOtherKeysOfItsOwnFile()
     {
         writeThroughQSettings(QStringLiteral("window/pos"), QPoint(3, 4));
-        QVERIFY(writeFile(orgWidePath(), "[General]\norgWide=1\n"));
+        QVERIFY(TestFiles::write(orgWidePath(), "[General]\norgWide=1\n"));
         makeCachedSettingsStale();
         {
             Settings settings;
@@ -324,7 +293,7 @@ private slots:
             }
         }
         QVERIFY(QFile::remove(orgWidePath()));
-        QVERIFY(!readFile(confPath()).contains("orgWide"));
+        QVERIFY(!TestFiles::read(confPath()).contains("orgWide"));
         QCOMPARE(onDisk(QStringLiteral("window/pos")).toPoint(), QPoint(3, 4));
         const auto reloaded = restart();
         QVERIFY(reloaded->contains(QStringLiteral("image")));
@@ -346,19 +315,19 @@ private slots:
             Settings settings;
             settings.setValue(QStringLiteral("probe"), QStringLiteral("kmnopq"));
             QVERIFY(settings.save());
-            QByteArray text = readFile(confPath());
+            QByteArray text = TestFiles::read(confPath());
             QCOMPARE(text.count("\\0k\\0m\\0n\\0o"), 1);
-            QVERIFY(writeFile(confPath(), text.replace("\\0k\\0m\\0n\\0o", "\\0k\\0n\\0n\\0o")));
+            QVERIFY(TestFiles::write(confPath(), text.replace("\\0k\\0m\\0n\\0o", "\\0k\\0n\\0n\\0o")));
         } else if (damage == NoChecksum) {
             writeThroughQSettings(SettingsKeys::Inst, QVariantMap{{SettingsKeys::LastKbLayout, 1}});
         } else {
             // A list whose count claims two billion entries: Qt's own parse
             // of the file throws std::bad_alloc.
-            QVERIFY(QDir().mkpath(QFileInfo(confPath()).absolutePath()));
-            QVERIFY(writeFile(confPath(), "[General]\ninst=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61"
-                                          "\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0\\0\\0\\0\\x2\\0\\0\\0\\x1)\nlang_idx=2\n"));
+            QVERIFY(TestFiles::write(confPath(),
+                                     "[General]\ninst=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61"
+                                     "\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0\\0\\0\\0\\x2\\0\\0\\0\\x1)\nlang_idx=2\n"));
         }
-        const QByteArray damaged = readFile(confPath());
+        const QByteArray damaged = TestFiles::read(confPath());
         makeCachedSettingsStale();
         LogCapture capture;
         // Only a file that would abort the start is moved aside before it.
@@ -375,7 +344,7 @@ private slots:
         QVERIFY(QFileInfo(copy).fileName().contains(
             QRegularExpression(QStringLiteral("^Keystage\\.conf\\.corrupt-\\d{8}_\\d{6}(-\\d+)?$"))));
         QCOMPARE(QFileInfo(copy).absolutePath(), QFileInfo(confPath()).absolutePath());
-        QCOMPARE(readFile(copy), damaged);
+        QCOMPARE(TestFiles::read(copy), damaged);
         QCOMPARE(capture.matching(copy).size(), 1);
 
         // The next start keeps no second copy of the same file.
@@ -445,11 +414,11 @@ private slots:
         const QVariantMap pages = keyList(QStringLiteral("exported key"));
         settings.setValue(storedAt, pages);
         const QString path = m_files->filePath(QStringLiteral("export.bin"));
-        QVERIFY(writeFile(path, QByteArray(10000, 'z'))); // replaced
+        QVERIFY(TestFiles::write(path, QByteArray(10000, 'z'))); // replaced
         QVERIFY(favourites ? settings.exportMyFavorite(path) : settings.exportSetting(path));
 
         // The checksum's serialisation of {content key: pages, "CHKSUM_TAG": md5}.
-        QCOMPARE(readFile(path),
+        QCOMPARE(TestFiles::read(path),
                  withChecksum({{favourites ? SettingsKeys::MyFavorite : SettingsKeys::MyLayout, pages}}));
         const Settings::ExportFile file = Settings::readExportFile(path);
         QVERIFY2(file.isValid() && file.error.isEmpty(), qPrintable(file.detail));
@@ -482,11 +451,11 @@ private slots:
 
         settings.setValue(SettingsKeys::LastKbLayout, 0);
         const QString notADirectory = m_files->filePath(QStringLiteral("plain-file"));
-        QVERIFY(writeFile(notADirectory, "x"));
+        QVERIFY(TestFiles::write(notADirectory, "x"));
         QVERIFY(!settings.exportSetting(notADirectory + QStringLiteral("/export.bin")));
         QVERIFY(!settings.exportMyFavorite(notADirectory + QStringLiteral("/export.bin")));
         QCOMPARE(capture.messages().count(QStringLiteral("Log file not created: open file fail!")), 2);
-        QCOMPARE(readFile(notADirectory), QByteArray("x"));
+        QCOMPARE(TestFiles::read(notADirectory), QByteArray("x"));
     }
 
     // Export files come from anyone. The fuzz corpus test feeds every
@@ -570,7 +539,7 @@ private slots:
         QSignalSpy layouts(&settings, &Settings::settingImported);
         QSignalSpy favourites(&settings, &Settings::myFavoriteImported);
         const QString bad = m_files->filePath(QStringLiteral("bad.bin"));
-        QVERIFY(writeFile(bad, "not an export"));
+        QVERIFY(TestFiles::write(bad, "not an export"));
         LogCapture capture;
         QVERIFY(isRejected(settings.importFile(bad), Settings::ImportProblem::NotAnExportFile));
         QCOMPARE(layouts.size() + favourites.size(), 0);

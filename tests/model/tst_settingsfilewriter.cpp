@@ -1,6 +1,7 @@
 #include "encodingcache.h"
 #include "samplevalues.h"
 #include "settingsfilewriter.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QLockFile>
@@ -10,12 +11,6 @@
 namespace {
 
 const QLatin1String Inst("inst");
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // The file QSettings writes for the keys, each written once into a new file.
 QByteArray writtenByQSettings(const QVariantMap& keys)
@@ -28,7 +23,7 @@ QByteArray writtenByQSettings(const QVariantMap& keys)
         for (auto it = keys.constBegin(); it != keys.constEnd(); ++it)
             settings.setValue(it.key(), it.value());
     }
-    return readFile(path);
+    return TestFiles::read(path);
 }
 
 // Keys before and after "inst", in groups, and one in a group named like the general section.
@@ -128,7 +123,7 @@ private slots:
         QString error;
         QVERIFY(writer.writeMapFile(path, Inst, map, late, otherKeys(others), &cache, &error));
         QCOMPARE(asked, 1);
-        QCOMPARE(readFile(path), writtenByQSettings(keys));
+        QCOMPARE(TestFiles::read(path), writtenByQSettings(keys));
     }
 
     // Images are known by cacheKey(), which changes with the pixels; the
@@ -164,7 +159,7 @@ private slots:
         const QByteArray large(3 * 1024 * 1024 + 5, 'L');
         const SettingsFileWriter::Content pieces{"a", large, "b", large, QByteArray(1024 * 1024 - 1, 's'), "c"};
         QVERIFY(SettingsFileWriter::writeFile(path, pieces, &error));
-        QCOMPARE(readFile(path), SettingsFileWriter::joined(pieces));
+        QCOMPARE(TestFiles::read(path), SettingsFileWriter::joined(pieces));
         QCOMPARE(QDir(QFileInfo(path).absolutePath()).entryList(QDir::Files),
                  QStringList{QStringLiteral("Keystage.conf")});
     }

@@ -4,6 +4,7 @@
 #include "installedapplications.h"
 #include "programlocator.h"
 #include "runningapplications.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QJsonArray>
@@ -35,18 +36,10 @@ int listApplications(int argc, char** argv)
     return 0;
 }
 
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
 // GIO leaves out entries whose program it cannot find.
 void writeProgram(const QString& path)
 {
-    writeFile(path, "#!/bin/sh\n");
+    QVERIFY(TestFiles::write(path, "#!/bin/sh\n"));
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
@@ -63,23 +56,24 @@ private slots:
         const QString flatpak = m_fixture.filePath(QStringLiteral("flatpak/exports/share"));
         writeProgram(m_fixture.filePath(QStringLiteral("My Tool/run")));
         writeProgram(m_fixture.filePath(QStringLiteral("bin/flatpak")));
-        writeFile(system + QStringLiteral("org.example.Editor.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Text Editor\nName[de]=Texteditor\n"
-                  "Comment=Edit text\nExec=sh -c 'exit 0' %U\nIcon=accessories-text-editor\n");
-        writeFile(system + QStringLiteral("percent.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Percent\nExec=\"" +
-                      m_fixture.filePath(QStringLiteral("My Tool/run")).toUtf8() +
-                      "\" --rate=50%% %f\n"
-                      "Icon=" +
-                      m_fixture.filePath(QStringLiteral("icon.png")).toUtf8() + "\n");
-        writeFile(system + QStringLiteral("hidden.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Hidden\nExec=true\nNoDisplay=true\n");
-        writeFile(system + QStringLiteral("missing.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Missing\nExec=nowhere\nTryExec=/nonexistent/nowhere\n");
-        writeFile(flatpak + QStringLiteral("/applications/org.example.Flat.desktop"),
-                  "[Desktop Entry]\nType=Application\nName=Flat App\nIcon=org.example.Flat\n"
-                  "Exec=flatpak run --branch=stable --arch=x86_64 --command=flat --file-forwarding "
-                  "org.example.Flat @@u %U @@\n");
+        QVERIFY(TestFiles::write(system + QStringLiteral("org.example.Editor.desktop"),
+                                 "[Desktop Entry]\nType=Application\nName=Text Editor\nName[de]=Texteditor\n"
+                                 "Comment=Edit text\nExec=sh -c 'exit 0' %U\nIcon=accessories-text-editor\n"));
+        QVERIFY(TestFiles::write(system + QStringLiteral("percent.desktop"),
+                                 "[Desktop Entry]\nType=Application\nName=Percent\nExec=\"" +
+                                     m_fixture.filePath(QStringLiteral("My Tool/run")).toUtf8() +
+                                     "\" --rate=50%% %f\n"
+                                     "Icon=" +
+                                     m_fixture.filePath(QStringLiteral("icon.png")).toUtf8() + "\n"));
+        QVERIFY(TestFiles::write(system + QStringLiteral("hidden.desktop"),
+                                 "[Desktop Entry]\nType=Application\nName=Hidden\nExec=true\nNoDisplay=true\n"));
+        QVERIFY(TestFiles::write(
+            system + QStringLiteral("missing.desktop"),
+            "[Desktop Entry]\nType=Application\nName=Missing\nExec=nowhere\nTryExec=/nonexistent/nowhere\n"));
+        QVERIFY(TestFiles::write(flatpak + QStringLiteral("/applications/org.example.Flat.desktop"),
+                                 "[Desktop Entry]\nType=Application\nName=Flat App\nIcon=org.example.Flat\n"
+                                 "Exec=flatpak run --branch=stable --arch=x86_64 --command=flat --file-forwarding "
+                                 "org.example.Flat @@u %U @@\n"));
 
         QProcess helper;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -118,16 +112,8 @@ private slots:
             << "Flat App"
             << "flatpak run --branch=stable --arch=x86_64 --command=flat --file-forwarding org.example.Flat"
             << "org.example.Flat" << m_fixture.filePath(QStringLiteral("bin/flatpak"));
-        QTest::newRow("NoDisplay") << "hidden.desktop"
-                                   << ""
-                                   << ""
-                                   << ""
-                                   << "";
-        QTest::newRow("TryExec missing") << "missing.desktop"
-                                         << ""
-                                         << ""
-                                         << ""
-                                         << "";
+        QTest::newRow("NoDisplay") << "hidden.desktop" << QString() << QString() << QString() << QString();
+        QTest::newRow("TryExec missing") << "missing.desktop" << QString() << QString() << QString() << QString();
     }
 
     void shouldListInstalledApplicationsFromTheDataDirectories()
@@ -219,7 +205,7 @@ private slots:
         QTemporaryDir dir;
         for (const char* program : {"a/both", "b/both", "b/plain", "b/dir"})
             writeProgram(dir.filePath(QString::fromLatin1(program)));
-        writeFile(dir.filePath(QStringLiteral("a/plain")), "text");
+        QVERIFY(TestFiles::write(dir.filePath(QStringLiteral("a/plain")), "text"));
         QDir(dir.path()).mkpath(QStringLiteral("a/dir"));
         ProgramLocator locator({dir.filePath(QStringLiteral("a")), dir.filePath(QStringLiteral("b"))});
         QCOMPARE(locator.find(name), found.isEmpty() ? QString() : dir.filePath(found));

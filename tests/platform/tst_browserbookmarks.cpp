@@ -4,6 +4,7 @@
 #include "chromiumbookmarks.h"
 #include "firefoxbookmarks.h"
 #include "logcapture.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QJsonArray>
@@ -14,14 +15,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
-void writeFile(const QString& path, const QByteArray& content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(content);
-}
 
 // The part of Firefox's schema the reader uses. Rows: folders and bookmarks
 // of a toolbar with a "News" folder, a tag (whose entries repeat bookmarks),
@@ -149,7 +142,7 @@ private slots:
         QFETCH(QStringList, expected);
         const QString base = m_home->filePath(installation);
         if (!profilesIni.isEmpty())
-            writeFile(base + QStringLiteral("/profiles.ini"), profilesIni);
+            QVERIFY(TestFiles::write(base + QStringLiteral("/profiles.ini"), profilesIni));
         std::vector<std::unique_ptr<PlacesDatabase>> open;
         for (const QString& profile : profiles)
             open.push_back(std::make_unique<PlacesDatabase>(base + '/' + profile + QStringLiteral("/places.sqlite")));
@@ -180,16 +173,16 @@ private slots:
         const QString base = m_home->filePath(userData);
         QStringList expected;
         for (const QString& profile : profiles) {
-            writeFile(base + '/' + profile + QStringLiteral("/Bookmarks"), chromiumBookmarks(profile));
+            QVERIFY(TestFiles::write(base + '/' + profile + QStringLiteral("/Bookmarks"), chromiumBookmarks(profile)));
             const QString shown =
                 profiles.size() > 1 ? QStringLiteral("%1 (%2)").arg(browser, "Name of " + profile) : browser;
             expected << shown + "|Mail " + profile + "|https://mail.example/|Bookmarks bar"
                      << shown + "|https://dev.example/|https://dev.example/|Bookmarks bar / Dev"
                      << shown + "|Phone|https://m.example/|Mobile bookmarks";
         }
-        writeFile(base + QStringLiteral("/Local State"),
-                  R"({"profile":{"info_cache":{"Default":{"name":"Name of Default"},
-                      "Profile 1":{"name":"Name of Profile 1"}}}})");
+        QVERIFY(TestFiles::write(base + QStringLiteral("/Local State"),
+                                 R"({"profile":{"info_cache":{"Default":{"name":"Name of Default"},
+                      "Profile 1":{"name":"Name of Profile 1"}}}})"));
         QCOMPARE(describe(BrowserBookmarks::query(m_home->path(), m_config)), expected);
     }
 
@@ -220,9 +213,10 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(QString, logged);
         const QString path = m_home->filePath(file);
-        writeFile(path, content);
+        QVERIFY(TestFiles::write(path, content));
         // An empty file is a valid, empty SQLite database.
-        writeFile(m_home->filePath(QStringLiteral(".config/vivaldi/Default/Bookmarks")), chromiumBookmarks("x"));
+        QVERIFY(TestFiles::write(m_home->filePath(QStringLiteral(".config/vivaldi/Default/Bookmarks")),
+                                 chromiumBookmarks("x")));
         LogCapture log;
         const QStringList found = describe(BrowserBookmarks::query(m_home->path(), m_config));
         QCOMPARE(found.size(), 3);

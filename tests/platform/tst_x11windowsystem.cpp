@@ -24,19 +24,8 @@ private slots:
     void shouldTakeTheFocusFromAnotherWindow()
     {
         QWidget ours;
-        ours.setWindowTitle(QStringLiteral("ours"));
-        ours.resize(200, 150);
-        ours.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&ours));
-
         QWidget other;
-        other.setWindowTitle(QStringLiteral("other"));
-        other.resize(200, 150);
-        other.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&other));
-        other.activateWindow();
-        QTRY_COMPARE_WITH_TIMEOUT(X11WindowSystem::activeWindowId(), quint32(other.winId()), 30000);
-
+        showBehind(&ours, &other);
         WindowSystem::create()->activateWindow(ours.windowHandle());
         QTRY_COMPARE_WITH_TIMEOUT(X11WindowSystem::activeWindowId(), quint32(ours.winId()), 30000);
         QTRY_VERIFY_WITH_TIMEOUT(ours.isActiveWindow(), 30000);
@@ -81,19 +70,10 @@ private slots:
     void shouldActivateAWindowByIdFromAnotherThread()
     {
         QWidget ours;
-        ours.setWindowTitle(QStringLiteral("ours"));
-        ours.resize(200, 150);
-        ours.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&ours));
         QWidget other;
-        other.setWindowTitle(QStringLiteral("other"));
-        other.resize(200, 150);
-        other.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&other));
-        other.activateWindow();
+        showBehind(&ours, &other);
         auto windowSystem = WindowSystem::create();
         QTRY_COMPARE_WITH_TIMEOUT(windowSystem->foregroundWindowId(), quint64(other.winId()), 30000);
-
         bool sent = false;
         const quint64 id = ours.winId();
         std::thread([&] { sent = windowSystem->activateWindowId(id); }).join();
@@ -103,6 +83,19 @@ private slots:
     }
 
     void shouldRefuseToActivateNoWindow() { QVERIFY(!WindowSystem::create()->activateWindowId(0)); }
+
+private:
+    // Both windows shown, `other` active.
+    static void showBehind(QWidget* ours, QWidget* other)
+    {
+        for (QWidget* window : {ours, other}) {
+            window->resize(200, 150);
+            window->show();
+            QVERIFY(QTest::qWaitForWindowExposed(window));
+        }
+        other->activateWindow();
+        QTRY_COMPARE_WITH_TIMEOUT(X11WindowSystem::activeWindowId(), quint32(other->winId()), 30000);
+    }
 };
 
 KEYSTAGE_TEST_MAIN(X11WindowSystemTest)

@@ -9,12 +9,6 @@ void FakeWindowSystem::setForeground(quint64 windowId, const QString& title)
     m_titles.insert(windowId, title);
 }
 
-void FakeWindowSystem::setTitle(quint64 windowId, const QString& title)
-{
-    QMutexLocker lock(&m_mutex);
-    m_titles.insert(windowId, title);
-}
-
 void FakeWindowSystem::setObeysActivation(bool obeys)
 {
     QMutexLocker lock(&m_mutex);
@@ -31,12 +25,6 @@ void FakeWindowSystem::setCanQueryForegroundApplication(bool canQuery)
 {
     QMutexLocker lock(&m_mutex);
     m_canQuery = canQuery;
-}
-
-void FakeWindowSystem::setRunningApplications(const QStringList& executables)
-{
-    QMutexLocker lock(&m_mutex);
-    m_running = executables;
 }
 
 QVector<FakeWindowSystem::Activation> FakeWindowSystem::activations() const
@@ -88,6 +76,5 @@ QString FakeWindowSystem::foregroundApplicationName()
 
 QStringList FakeWindowSystem::runningApplicationExecutables()
 {
-    QMutexLocker lock(&m_mutex);
-    return m_running;
+    return {};
 }

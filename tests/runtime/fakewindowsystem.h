@@ -18,13 +18,11 @@ public:
     };
 
     void setForeground(quint64 windowId, const QString& title);
-    void setTitle(quint64 windowId, const QString& title);
     void setObeysActivation(bool obeys);
     // The program in front, whatever the window; an unqueryable desktop
     // (like Wayland) reports none.
     void setForegroundApplication(const QString& name);
     void setCanQueryForegroundApplication(bool canQuery);
-    void setRunningApplications(const QStringList& executables);
     QVector<Activation> activations() const;
 
     QString name() const override;
@@ -43,6 +41,5 @@ private:
     bool m_obeys = true;
     QString m_application;
     bool m_canQuery = true;
-    QStringList m_running;
     QVector<Activation> m_activations;
 };
