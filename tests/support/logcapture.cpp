@@ -1,8 +1,11 @@
 #include "logcapture.h"
 
+#include <atomic>
+
 namespace {
-LogCapture* active = nullptr;
-}
+// Read by the handler on whichever thread logs.
+std::atomic<LogCapture*> active{nullptr};
+} // namespace
 
 LogCapture::LogCapture()
 {
@@ -18,10 +21,11 @@ LogCapture::~LogCapture()
 
 void LogCapture::handler(QtMsgType, const QMessageLogContext&, const QString& message)
 {
-    if (!active)
+    LogCapture* capture = active.load();
+    if (!capture)
         return;
-    QMutexLocker locker(&active->m_mutex);
-    active->m_messages << message;
+    QMutexLocker locker(&capture->m_mutex);
+    capture->m_messages << message;
 }
 
 QStringList LogCapture::messages() const

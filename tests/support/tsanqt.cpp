@@ -18,6 +18,7 @@
 #include "tsanqt.h"
 
 #include <QCoreApplication>
+#include <QFutureInterfaceBase>
 #include <QMetaObject>
 #include <QMutex>
 #include <QThread>
@@ -116,6 +117,22 @@ bool QThread::wait(unsigned long time)
     if (ended)
         __tsan_acquire(this);
     return ended;
+}
+
+// A future's results are freed by whichever holder lets go of it last, a
+// worker thread's task or the thread that waited for it; QtCore counts the
+// holders atomically, out of the sanitizer's sight. Each letting go releases
+// the result store, and the last one acquires it before the results go.
+bool QFutureInterfaceBase::derefT() const
+{
+    static const auto real =
+        qtCoreFunction<bool (*)(const QFutureInterfaceBase*)>("_ZNK20QFutureInterfaceBase6derefTEv");
+    void* results = const_cast<QtPrivate::ResultStoreBase*>(&resultStoreBase());
+    __tsan_release(results);
+    const bool stillHeld = real(this);
+    if (!stillHeld)
+        __tsan_acquire(results);
+    return stillHeld;
 }
 
 void QMetaObject::activate(QObject* sender, const QMetaObject* meta, int localSignalIndex, void** argv)

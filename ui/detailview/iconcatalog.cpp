@@ -14,8 +14,13 @@ IconCatalog::IconCatalog(const QString& emojiFile, QObject* parent) : QObject(pa
     connect(&m_emojiWatcher, &QFutureWatcherBase::finished, this, &IconCatalog::onEmojiLoaded);
 }
 
-// A read under way finishes on its own; it holds copies only.
-IconCatalog::~IconCatalog() = default;
+// A read under way is waited for: reads are short, and one left running
+// would log and allocate after its catalog is gone.
+IconCatalog::~IconCatalog()
+{
+    m_themeWatcher.waitForFinished();
+    m_emojiWatcher.waitForFinished();
+}
 
 IconCatalog* IconCatalog::instance()
 {
@@ -42,7 +47,7 @@ void IconCatalog::request(Source source)
 
 bool IconCatalog::isRunning(Source source) const
 {
-    return source == ThemeIcons ? m_themeWatcher.isRunning() : m_emojiWatcher.isRunning();
+    return source == ThemeIcons ? m_themePending : m_emojiPending;
 }
 
 bool IconCatalog::hasResult(Source source) const
@@ -52,6 +57,7 @@ bool IconCatalog::hasResult(Source source) const
 
 void IconCatalog::startThemeScan()
 {
+    m_themePending = true;
     m_scanKey = currentThemeKey();
     m_scanningTheme = QIcon::themeName();
     const QStringList searchPaths = QIcon::themeSearchPaths();
@@ -61,12 +67,14 @@ void IconCatalog::startThemeScan()
 
 void IconCatalog::startEmojiLoad()
 {
+    m_emojiPending = true;
     emit started(Emoji);
     m_emojiWatcher.setFuture(QtConcurrent::run(&EmojiCatalog::load, m_emojiFile));
 }
 
 void IconCatalog::onThemeScanned()
 {
+    m_themePending = false;
     m_themeIcons = m_themeWatcher.result();
     m_themeName = m_scanningTheme;
     m_haveTheme = true;
@@ -79,6 +87,7 @@ void IconCatalog::onThemeScanned()
 
 void IconCatalog::onEmojiLoaded()
 {
+    m_emojiPending = false;
     m_emoji = m_emojiWatcher.result();
     m_haveEmoji = true;
     LOG_MSG(QStringLiteral("%1 emoji read").arg(m_emoji.entries.size()));

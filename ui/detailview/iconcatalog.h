@@ -60,6 +60,10 @@ private:
     QString m_scanningTheme;
     QStringList m_themeIcons;
     bool m_haveTheme = false;
+    // From the start of a read until its result is taken: a future that has
+    // finished but whose watcher has not yet said so still counts as running.
+    bool m_themePending = false;
+    bool m_emojiPending = false;
     EmojiCatalog::Result m_emoji;
     bool m_haveEmoji = false;
 };
