@@ -130,14 +130,20 @@ QPixmap FaceEditor::iconTile(const KeyItem& item, int slot)
     return tile;
 }
 
-void FaceEditor::chooseStyle()
+// A copy: the item may change while a dialog is open. False once it is gone.
+bool FaceEditor::copyFace(KeyRenderInfo* face) const
 {
     const KeyItem* item = m_editor->item();
-    if (!item)
-        return;
-    // A copy: the item may change while the dialog is open.
+    if (item)
+        face->assignFrom(item->render[m_slot]);
+    return item != nullptr;
+}
+
+void FaceEditor::chooseStyle()
+{
     KeyRenderInfo face;
-    face.assignFrom(item->render[m_slot]);
+    if (!copyFace(&face))
+        return;
     const QPointer<FaceEditor> self(this);
     TitleStyle style;
     if (!FormDialogs::chooseTitleStyle(this, face, gridIconSize(), &style) || !self)
@@ -148,11 +154,9 @@ void FaceEditor::chooseStyle()
 
 void FaceEditor::chooseIcon()
 {
-    const KeyItem* item = m_editor->item();
-    if (!item)
-        return;
     KeyRenderInfo face;
-    face.assignFrom(item->render[m_slot]);
+    if (!copyFace(&face))
+        return;
     const QPointer<FaceEditor> self(this);
     QImage image;
     if (!FormDialogs::chooseIcon(this, face, &image) || !self || image.isNull())

@@ -5,6 +5,7 @@
 
 class KeyItem;
 class KeyItemEditor;
+struct KeyRenderInfo;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -31,6 +32,7 @@ public:
     void refresh(const KeyItem& item);
 
 private:
+    bool copyFace(KeyRenderInfo* face) const;
     void chooseStyle();
     void chooseIcon();
     void useDefaultIcon();
