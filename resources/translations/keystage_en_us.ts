@@ -5,540 +5,540 @@
     <name>AboutPage</name>
     <message>
         <source>%1, version %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, version %2</translation>
     </message>
     <message>
         <source>The desktop companion of your LCD macro keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>The desktop companion of your LCD macro keypad.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licences</translation>
     </message>
     <message>
         <source>%1 is free software: you can redistribute it and modify it under the terms of the GNU General Public License, version 3 or any later version. It comes with no warranty. It is built with Qt %2, used under the GNU Lesser General Public License version 3. Key titles are drawn with the Liberation Sans fonts, used under the SIL Open Font License 1.1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is free software: you can redistribute it and modify it under the terms of the GNU General Public License, version 3 or any later version. It comes with no warranty. It is built with Qt %2, used under the GNU Lesser General Public License version 3. Key titles are drawn with the Liberation Sans fonts, used under the SIL Open Font License 1.1.</translation>
     </message>
     <message>
         <source>About Qt</source>
-        <translation type="unfinished"></translation>
+        <translation>About Qt</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Files</translation>
     </message>
     <message>
         <source>Log files</source>
-        <translation type="unfinished"></translation>
+        <translation>Log files</translation>
     </message>
     <message>
         <source>Open log folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Open log folder</translation>
     </message>
     <message>
         <source>Settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings file</translation>
     </message>
     <message>
         <source>Open settings folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Open settings folder</translation>
     </message>
     <message>
         <source>The settings file carries a checksum: a file changed by hand is not loaded, and the settings start over.</source>
-        <translation type="unfinished"></translation>
+        <translation>The settings file carries a checksum: a file changed by hand is not loaded, and the settings start over.</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
 </context>
 <context>
     <name>Accessibility</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
 </context>
 <context>
     <name>ActionList</name>
     <message>
         <source>Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder</translation>
     </message>
     <message>
         <source>Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Hotkey</translation>
     </message>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Launch</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Website</translation>
     </message>
     <message>
         <source>Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>Text String</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>My Favorite</translation>
     </message>
 </context>
 <context>
     <name>AddTextDialog</name>
     <message>
         <source>Add text</source>
-        <translation type="unfinished"></translation>
+        <translation>Add text</translation>
     </message>
     <message>
         <source>Each character becomes a press and a release of the key that types it on a US keyboard, with Shift where a US keyboard needs it, the way the keypad types on every desktop. With another keyboard layout active some characters come out differently, and characters a US keyboard lacks are left out. To insert any text as it is, use a Text String key instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Each character becomes a press and a release of the key that types it on a US keyboard, with Shift where a US keyboard needs it, the way the keypad types on every desktop. With another keyboard layout active some characters come out differently, and characters a US keyboard lacks are left out. To insert any text as it is, use a Text String key instead.</translation>
     </message>
     <message>
         <source>&amp;Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Text:</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Add</translation>
     </message>
     <message numerus="yes">
         <source>%n step(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n step</numerusform>
+            <numerusform>%n steps</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Left out: %1</translation>
     </message>
 </context>
 <context>
     <name>ApplicationChooser</name>
     <message>
         <source>Choose Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose Application</translation>
     </message>
     <message>
         <source>&amp;Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installed</translation>
     </message>
     <message>
         <source>&amp;Running</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Running</translation>
     </message>
     <message>
         <source>Where the applications come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Where the applications come from</translation>
     </message>
     <message>
         <source>&amp;Applications:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Applications:</translation>
     </message>
     <message>
         <source>Looking for running applications…</source>
-        <translation type="unfinished"></translation>
+        <translation>Looking for running applications…</translation>
     </message>
     <message>
         <source>Looking for installed applications…</source>
-        <translation type="unfinished"></translation>
+        <translation>Looking for installed applications…</translation>
     </message>
     <message>
         <source>This desktop does not tell which applications are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>This desktop does not tell which applications are running.</translation>
     </message>
     <message>
         <source>No applications found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No applications found.</translation>
     </message>
 </context>
 <context>
     <name>AutostartEntry</name>
     <message>
         <source>The folder %1 cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder %1 cannot be made.</translation>
     </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
     <message>
         <source>Choose Bookmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose Bookmark</translation>
     </message>
     <message>
         <source>&amp;Bookmarks:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bookmarks:</translation>
     </message>
     <message>
         <source>&amp;Use the page title as the key title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Use the page title as the key title</translation>
     </message>
     <message>
         <source>Reading the browsers&apos; bookmarks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the browsers&apos; bookmarks…</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>No bookmarks of Firefox, Chromium, Google Chrome, Brave, Vivaldi or Microsoft Edge found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No bookmarks of Firefox, Chromium, Google Chrome, Brave, Vivaldi or Microsoft Edge found.</translation>
     </message>
 </context>
 <context>
     <name>ChooserDialog</name>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Search:</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;fresh</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationBackup</name>
     <message>
         <source>%1 backup %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 backup %2</translation>
     </message>
     <message>
         <source>vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>vertical</translation>
     </message>
     <message>
         <source>horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>horizontal</translation>
     </message>
     <message>
         <source>Layout %1 keys %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout %1 keys %2</translation>
     </message>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>My Favorite</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder %1 does not exist.</translation>
     </message>
     <message>
         <source>No folder can be made in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No folder can be made in %1.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 could not be written: %2</translation>
     </message>
 </context>
 <context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Dialog</translation>
     </message>
     <message>
         <source>icon</source>
-        <translation type="unfinished"></translation>
+        <translation>icon</translation>
     </message>
     <message>
         <source>subject text</source>
-        <translation type="unfinished"></translation>
+        <translation>subject text</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t show again</translation>
     </message>
     <message>
         <source>other</source>
-        <translation type="unfinished"></translation>
+        <translation>other</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
     <name>DimmingPage</name>
     <message>
         <source>Dimming</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimming</translation>
     </message>
     <message>
         <source>Dim the keypad after</source>
-        <translation type="unfinished"></translation>
+        <translation>Dim the keypad after</translation>
     </message>
     <message>
         <source>minutes without a key press</source>
-        <translation type="unfinished"></translation>
+        <translation>minutes without a key press</translation>
     </message>
     <message>
         <source>Minutes without a key press</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes without a key press</translation>
     </message>
     <message>
         <source>Dimmed brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimmed brightness:</translation>
     </message>
     <message>
         <source>Dimmed brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimmed brightness</translation>
     </message>
     <message>
         <source>Turn the keypad off while the screen is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn the keypad off while the screen is locked</translation>
     </message>
     <message>
         <source>The next key press brings the brightness back; that press does nothing else.</source>
-        <translation type="unfinished"></translation>
+        <translation>The next key press brings the brightness back; that press does nothing else.</translation>
     </message>
     <message>
         <source>Unavailable: the keypad connection is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unavailable: the keypad connection is not running.</translation>
     </message>
     <message>
         <source>Unavailable: neither logind nor a screen saver reports screen locks on this desktop (D-Bus).</source>
-        <translation type="unfinished"></translation>
+        <translation>Unavailable: neither logind nor a screen saver reports screen locks on this desktop (D-Bus).</translation>
     </message>
 </context>
 <context>
     <name>EmojiCatalog</name>
     <message>
         <source>The list of emoji (%1) cannot be read. Install the package unicode-data.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list of emoji (%1) cannot be read. Install the package unicode-data.</translation>
     </message>
     <message>
         <source>The list of emoji (%1) is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list of emoji (%1) is not valid.</translation>
     </message>
     <message>
         <source>The list of emoji holds no emoji.</source>
-        <translation type="unfinished"></translation>
+        <translation>The list of emoji holds no emoji.</translation>
     </message>
 </context>
 <context>
     <name>FaceEditor</name>
     <message>
         <source>Shown on the key</source>
-        <translation type="unfinished"></translation>
+        <translation>Shown on the key</translation>
     </message>
     <message>
         <source>Style…</source>
-        <translation type="unfinished"></translation>
+        <translation>Style…</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icon</translation>
     </message>
     <message>
         <source>Choose icon…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose icon…</translation>
     </message>
     <message>
         <source>Use default icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Use default icon</translation>
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Of the second hotkey</translation>
     </message>
 </context>
 <context>
     <name>Favorite</name>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>My Favorite</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Empty slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Empty slot</translation>
     </message>
     <message>
         <source>Usage: %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Usage: %1 / %2</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all favorite items?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to reset all favorite items?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>You can&apos;t undo this action.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Delete</translation>
     </message>
 </context>
 <context>
     <name>FavoriteKeyItemModel</name>
     <message>
         <source>You have reached the limit of &quot;My Favorite&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>You have reached the limit of &quot;My Favorite&quot;.</translation>
     </message>
     <message>
         <source>Import %1 fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>Import %1 fails.</translation>
     </message>
     <message>
         <source>The limit of &quot;My Favorite&quot; is %1 items.</source>
-        <translation type="unfinished"></translation>
+        <translation>The limit of &quot;My Favorite&quot; is %1 items.</translation>
     </message>
     <message>
         <source>You already have %1 item in &quot;My Favorite.&quot; If continues, %2 item will be lost. Are you sure you want to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>You already have %1 item in &quot;My Favorite.&quot; If continues, %2 item will be lost. Are you sure you want to proceed?</translation>
     </message>
 </context>
 <context>
     <name>FirefoxBookmarks</name>
     <message>
         <source>Bookmarks Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Bookmarks Menu</translation>
     </message>
     <message>
         <source>Bookmarks Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Bookmarks Toolbar</translation>
     </message>
     <message>
         <source>Other Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Other Bookmarks</translation>
     </message>
     <message>
         <source>Mobile Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Mobile Bookmarks</translation>
     </message>
 </context>
 <context>
     <name>FirmwarePage</name>
     <message>
         <source>The keypad runs firmware of its own. This program carries the newest firmware it knows for each keypad model and can install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad runs firmware of its own. This program carries the newest firmware it knows for each keypad model and can install it.</translation>
     </message>
     <message>
         <source>Keypad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad:</translation>
     </message>
     <message>
         <source>Serial number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Serial number:</translation>
     </message>
     <message>
         <source>Installed firmware:</source>
-        <translation type="unfinished"></translation>
+        <translation>Installed firmware:</translation>
     </message>
     <message>
         <source>Firmware in this program:</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware in this program:</translation>
     </message>
     <message>
         <source>&amp;Update firmware…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Update firmware…</translation>
     </message>
     <message>
         <source>Update progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Update progress</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>The firmware update is still running. Closing now could leave the keypad unusable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The firmware update is still running. Closing now could leave the keypad unusable.</translation>
     </message>
     <message>
         <source>Reading the keypad…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the keypad…</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>No keypad connected</translation>
     </message>
     <message>
         <source>The keypad does not tell its firmware version. Unplug it, plug it in again and try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad does not tell its firmware version. Unplug it, plug it in again and try once more.</translation>
     </message>
     <message>
         <source>This program has no firmware for this keypad (%1), so there is no update to offer.</source>
-        <translation type="unfinished"></translation>
+        <translation>This program has no firmware for this keypad (%1), so there is no update to offer.</translation>
     </message>
     <message>
         <source>Updating the firmware. Keep the keypad plugged in; its keys do nothing until the update ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Updating the firmware. Keep the keypad plugged in; its keys do nothing until the update ends.</translation>
     </message>
     <message>
         <source>The firmware was updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>The firmware was updated.</translation>
     </message>
     <message>
         <source>The firmware update failed. Keep the keypad plugged in and try again. If it stays dark, unplug it and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The firmware update failed. Keep the keypad plugged in and try again. If it stays dark, unplug it and plug it in again.</translation>
     </message>
 </context>
 <context>
     <name>FolderCondition</name>
     <message>
         <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation type="unfinished"></translation>
+        <translation>This desktop does not tell which application is in front, so folders cannot open by application.</translation>
     </message>
 </context>
 <context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder</translation>
     </message>
     <message>
         <source>No application</source>
-        <translation type="unfinished"></translation>
+        <translation>No application</translation>
     </message>
     <message>
         <source>Open this folder when an application comes to the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Open this folder when an application comes to the front</translation>
     </message>
     <message>
         <source>Choose application…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose application…</translation>
     </message>
     <message>
         <source>Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Browse…</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>The folder no longer opens by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder no longer opens by itself</translation>
     </message>
 </context>
 <context>
@@ -546,170 +546,176 @@
     <message>
         <source>Folder
 Store an organized group of key actions. Folder can be linked to an application, and folder will open automatically when the application is launched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder
+Store an organized group of key actions. Folder can be linked to an application, and folder will open automatically when the application is launched.</translation>
     </message>
     <message>
         <source>Hotkey
 A key or a combination of keys used together to perform a task or function on the operating system or applications. Recall the hotkey action by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hotkey
+A key or a combination of keys used together to perform a task or function on the operating system or applications. Recall the hotkey action by pressing on the button.</translation>
     </message>
     <message>
         <source>Macro key
 A sequence of commands or keyboard strokes stored in the assigned key. Recall the macro key action by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro key
+A sequence of commands or keyboard strokes stored in the assigned key. Recall the macro key action by pressing on the button.</translation>
     </message>
     <message>
         <source>Launch
 Execute an application, file, folder path, or command-line by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Launch
+Execute an application, file, folder path, or command-line by pressing on the button.</translation>
     </message>
     <message>
         <source>Website
 Search the web or navigate the site by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Website
+Search the web or navigate the site by pressing on the button.</translation>
     </message>
     <message>
         <source>Text String
 A sequence of characters defined by users. Text string can be text message, source code or script that stored in the assigned key. Recall the text string by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text String
+A sequence of characters defined by users. Text string can be text message, source code or script that stored in the assigned key. Recall the text string by pressing on the button.</translation>
     </message>
     <message>
         <source>Drag an action from above list and drop into section on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drag an action from above list and drop into section on the left.</translation>
     </message>
 </context>
 <context>
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Hotkey</translation>
     </message>
     <message>
         <source>Key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Key combination</translation>
     </message>
     <message>
         <source>Toggle between two hotkeys</source>
-        <translation type="unfinished"></translation>
+        <translation>Toggle between two hotkeys</translation>
     </message>
     <message>
         <source>Second key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Second key combination</translation>
     </message>
     <message>
         <source>Second title</source>
-        <translation type="unfinished"></translation>
+        <translation>Second title</translation>
     </message>
     <message>
         <source>The keypad shows the first hotkey now.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad shows the first hotkey now.</translation>
     </message>
     <message>
         <source>The keypad shows the second hotkey now.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad shows the second hotkey now.</translation>
     </message>
 </context>
 <context>
     <name>HotkeyRecorder</name>
     <message>
         <source>Press a key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Press a key combination</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Not set</translation>
     </message>
     <message>
         <source>That key cannot be typed. Press another one</source>
-        <translation type="unfinished"></translation>
+        <translation>That key cannot be typed. Press another one</translation>
     </message>
     <message>
         <source>Click, or press Enter or Space, to record a key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Click, or press Enter or Space, to record a key combination</translation>
     </message>
     <message>
         <source>Keys a keyboard may lack</source>
-        <translation type="unfinished"></translation>
+        <translation>Keys a keyboard may lack</translation>
     </message>
 </context>
 <context>
     <name>IconChooser</name>
     <message>
         <source>Choose Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose Icon</translation>
     </message>
     <message>
         <source>Image &amp;file</source>
-        <translation type="unfinished"></translation>
+        <translation>Image &amp;file</translation>
     </message>
     <message>
         <source>Icon &amp;theme</source>
-        <translation type="unfinished"></translation>
+        <translation>Icon &amp;theme</translation>
     </message>
     <message>
         <source>&amp;Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Emoji</translation>
     </message>
     <message>
         <source>The key with this icon</source>
-        <translation type="unfinished"></translation>
+        <translation>The key with this icon</translation>
     </message>
     <message>
         <source>Choose image file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose image file…</translation>
     </message>
     <message>
         <source>PNG, JPEG, SVG, WebP, GIF (its first picture) and the other image formats of this system. The picture is fitted into the key without distortion; transparent parts stay transparent.</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, JPEG, SVG, WebP, GIF (its first picture) and the other image formats of this system. The picture is fitted into the key without distortion; transparent parts stay transparent.</translation>
     </message>
     <message>
         <source>&amp;Icons:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Icons:</translation>
     </message>
     <message>
         <source>E&amp;moji:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;moji:</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be read: %2</translation>
     </message>
     <message>
         <source>Reading the icon theme…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the icon theme…</translation>
     </message>
     <message>
         <source>Reading the emoji…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the emoji…</translation>
     </message>
     <message>
         <source>The icon theme &quot;%1&quot; has no icons.</source>
-        <translation type="unfinished"></translation>
+        <translation>The icon theme &quot;%1&quot; has no icons.</translation>
     </message>
     <message>
         <source>No icon chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No icon chosen.</translation>
     </message>
 </context>
 <context>
     <name>IconGridPage</name>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Search:</translation>
     </message>
     <message>
         <source>Type words of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Type words of the name</translation>
     </message>
     <message>
         <source>Nothing matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing matches the search.</translation>
     </message>
     <message numerus="yes">
         <source>%n shown</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n shown</numerusform>
+            <numerusform>%n shown</numerusform>
         </translation>
     </message>
 </context>
@@ -717,1127 +723,1127 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>ImportExportPage</name>
     <message>
         <source>Export layout…</source>
-        <translation type="unfinished"></translation>
+        <translation>Export layout…</translation>
     </message>
     <message>
         <source>The keys of the layout in use, with their folders, as a .kslayout file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keys of the layout in use, with their folders, as a .kslayout file.</translation>
     </message>
     <message>
         <source>Export My Favorite…</source>
-        <translation type="unfinished"></translation>
+        <translation>Export My Favorite…</translation>
     </message>
     <message>
         <source>All of My Favorite as a .ksfavorites file.</source>
-        <translation type="unfinished"></translation>
+        <translation>All of My Favorite as a .ksfavorites file.</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Import…</translation>
     </message>
     <message>
         <source>A .kslayout file replaces the keys of the layout in use; a .ksfavorites file adds to My Favorite. You are asked first.</source>
-        <translation type="unfinished"></translation>
+        <translation>A .kslayout file replaces the keys of the layout in use; a .ksfavorites file adds to My Favorite. You are asked first.</translation>
     </message>
     <message>
         <source>Back up everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>Back up everything…</translation>
     </message>
     <message>
         <source>Every layout and My Favorite, each in a file of its own, into a new dated folder inside the folder you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Every layout and My Favorite, each in a file of its own, into a new dated folder inside the folder you choose.</translation>
     </message>
     <message>
         <source>Import and export</source>
-        <translation type="unfinished"></translation>
+        <translation>Import and export</translation>
     </message>
     <message>
         <source>Export layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Export layout</translation>
     </message>
     <message>
         <source>Keystage layout (*.kslayout)</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage layout (*.kslayout)</translation>
     </message>
     <message>
         <source>The layout was exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The layout was exported to %1.</translation>
     </message>
     <message>
         <source>The layout could not be exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The layout could not be exported to %1.</translation>
     </message>
     <message>
         <source>Export My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Export My Favorite</translation>
     </message>
     <message>
         <source>Keystage favorites (*.ksfavorites)</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage favorites (*.ksfavorites)</translation>
     </message>
     <message>
         <source>My Favorite was exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>My Favorite was exported to %1.</translation>
     </message>
     <message>
         <source>My Favorite could not be exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>My Favorite could not be exported to %1.</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Import</translation>
     </message>
     <message>
         <source>Keystage files (*.kslayout *.ksfavorites);;Keystage layout (*.kslayout);;Keystage favorites (*.ksfavorites)</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage files (*.kslayout *.ksfavorites);;Keystage layout (*.kslayout);;Keystage favorites (*.ksfavorites)</translation>
     </message>
     <message>
         <source>Back up everything into</source>
-        <translation type="unfinished"></translation>
+        <translation>Back up everything into</translation>
     </message>
     <message numerus="yes">
         <source>%n files were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n file was written to %1.</numerusform>
+            <numerusform>%n files were written to %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The backup failed. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The backup failed. %1</translation>
     </message>
 </context>
 <context>
     <name>InsertKeyDialog</name>
     <message>
         <source>Insert key</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert key</translation>
     </message>
     <message>
         <source>&amp;Key to insert (a press and a release, with its modifiers around it):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Key to insert (a press and a release, with its modifiers around it):</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert</translation>
     </message>
 </context>
 <context>
     <name>KeyChord</name>
     <message>
         <source>Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
     <name>KeyGridContextMenu</name>
     <message>
         <source>&amp;New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;New Folder</translation>
     </message>
     <message>
         <source>&amp;Create Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Create Actions</translation>
     </message>
     <message>
         <source>&amp;Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hotkey</translation>
     </message>
     <message>
         <source>&amp;Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Macro</translation>
     </message>
     <message>
         <source>&amp;Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Launch</translation>
     </message>
     <message>
         <source>&amp;Website</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Website</translation>
     </message>
     <message>
         <source>&amp;Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text String</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cut</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copy</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Delete</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Paste</translation>
     </message>
     <message>
         <source>&amp;Save as favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Save as favorite</translation>
     </message>
 </context>
 <context>
     <name>KeyGridController</name>
     <message>
         <source>The limit of folder is different.</source>
-        <translation type="unfinished"></translation>
+        <translation>The limit of folder is different.</translation>
     </message>
     <message>
         <source>If continues, some items may be lost. Are you sure you want to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>If continues, some items may be lost. Are you sure you want to proceed?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to delete this item?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>You can&apos;t undo this action.</translation>
     </message>
     <message>
         <source>Don&apos;t ask me again</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t ask me again</translation>
     </message>
 </context>
 <context>
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
 </context>
 <context>
     <name>KeyItemGridView</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Keys</translation>
     </message>
     <message>
         <source>Key %1: empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Key %1: empty</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Back</translation>
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Key %1: %2</translation>
     </message>
     <message>
         <source>Key %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Key %1: %2, %3</translation>
     </message>
 </context>
 <context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n step</numerusform>
+            <numerusform>%n steps</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n key(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n key</numerusform>
+            <numerusform>%n keys</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>KeyMapping</name>
     <message>
         <source>Unknown key</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown key</translation>
     </message>
     <message>
         <source>Left Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Left Super</translation>
     </message>
     <message>
         <source>Right Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Right Super</translation>
     </message>
     <message>
         <source>Left Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Left Shift</translation>
     </message>
     <message>
         <source>Right Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Right Shift</translation>
     </message>
     <message>
         <source>Left Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Left Ctrl</translation>
     </message>
     <message>
         <source>Right Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Right Ctrl</translation>
     </message>
     <message>
         <source>Left Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Left Alt</translation>
     </message>
     <message>
         <source>Right Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Right Alt</translation>
     </message>
 </context>
 <context>
     <name>KeyPickerMenu</name>
     <message>
         <source>F13 to F24</source>
-        <translation type="unfinished"></translation>
+        <translation>F13 to F24</translation>
     </message>
     <message>
         <source>Keys the recorder uses</source>
-        <translation type="unfinished"></translation>
+        <translation>Keys the recorder uses</translation>
     </message>
 </context>
 <context>
     <name>KeypadAccess</name>
     <message>
         <source>Install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), then run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; or unplug and replug the keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>Install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), then run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; or unplug and replug the keypad.</translation>
     </message>
 </context>
 <context>
     <name>KeypadPage</name>
     <message>
         <source>Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Serial number</translation>
     </message>
     <message>
         <source>Firmware version</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware version</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brightness</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Set on the keypad as you move it, and on every keypad you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Set on the keypad as you move it, and on every keypad you connect.</translation>
     </message>
     <message>
         <source>Show logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Show logo</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>No keypad connected</translation>
     </message>
     <message>
         <source>Reading the keypad…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the keypad…</translation>
     </message>
     <message>
         <source>The keypad does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad does not answer.</translation>
     </message>
     <message>
         <source>The keypad shows its logo for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad shows its logo for a moment.</translation>
     </message>
     <message>
         <source>The keypad did not show its logo.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keypad did not show its logo.</translation>
     </message>
 </context>
 <context>
     <name>KeystrokeBackend</name>
     <message>
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
-        <translation type="unfinished"></translation>
+        <translation>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</translation>
     </message>
 </context>
 <context>
     <name>LanguagePage</name>
     <message>
         <source>The language of %1&apos;s windows. It changes when %1 starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The language of %1&apos;s windows. It changes when %1 starts again.</translation>
     </message>
     <message>
         <source>Use this language</source>
-        <translation type="unfinished"></translation>
+        <translation>Use this language</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Language</translation>
     </message>
     <message>
         <source>The language could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>The language could not be stored.</translation>
     </message>
     <message>
         <source>Restart %1 now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Restart %1 now?</translation>
     </message>
     <message>
         <source>%1 is used from the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is used from the next start.</translation>
     </message>
 </context>
 <context>
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Launch</translation>
     </message>
     <message>
         <source>A program, script, document or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>A program, script, document or folder</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Command</translation>
     </message>
     <message>
         <source>Choose file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose file…</translation>
     </message>
     <message>
         <source>Choose application…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose application…</translation>
     </message>
     <message>
         <source>Use as title</source>
-        <translation type="unfinished"></translation>
+        <translation>Use as title</translation>
     </message>
     <message>
         <source>Use &quot;%1&quot; as the title?</source>
-        <translation type="unfinished"></translation>
+        <translation>Use &quot;%1&quot; as the title?</translation>
     </message>
 </context>
 <context>
     <name>LayoutPage</name>
     <message>
         <source>Choose the keypad you use and how you hold it. The editor and the keypad change at once; every layout keeps its own keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose the keypad you use and how you hold it. The editor and the keypad change at once; every layout keeps its own keys.</translation>
     </message>
     <message>
         <source>Keypad size</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad size</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientation</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Horizontal</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertical</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
 </context>
 <context>
     <name>LayoutText</name>
     <message>
         <source>%1 keys</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 keys</translation>
     </message>
     <message>
         <source>%1 keys, vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 keys, vertical</translation>
     </message>
     <message>
         <source>%1 keys, horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 keys, horizontal</translation>
     </message>
 </context>
 <context>
     <name>MacroEditor</name>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Record</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop</translation>
     </message>
     <message>
         <source>&amp;Steps:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Steps:</translation>
     </message>
     <message>
         <source>Steps:</source>
-        <translation type="unfinished"></translation>
+        <translation>Steps:</translation>
     </message>
     <message>
         <source>Insert key…</source>
-        <translation type="unfinished"></translation>
+        <translation>Insert key…</translation>
     </message>
     <message>
         <source>Add text…</source>
-        <translation type="unfinished"></translation>
+        <translation>Add text…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Move up</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Move down</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Add the missing releases</source>
-        <translation type="unfinished"></translation>
+        <translation>Add the missing releases</translation>
     </message>
     <message>
         <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recording: press the keys of the macro. Esc alone or Stop ends the recording.</translation>
     </message>
     <message numerus="yes">
         <source>%n key(s) that cannot be typed left out.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n key that cannot be typed left out.</numerusform>
+            <numerusform>%n keys that cannot be typed left out.</numerusform>
         </translation>
     </message>
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
-        <translation type="unfinished"></translation>
+        <translation>The macro leaves %1 held down: it stays pressed after the macro has played.</translation>
     </message>
 </context>
 <context>
     <name>MacroForm</name>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Steps</translation>
     </message>
 </context>
 <context>
     <name>MacroStepModel</name>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Down</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Up</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
         <extracomment>A macro step, as a screen reader reads it: &quot;3: Shift down&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 %3</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Key</translation>
     </message>
     <message>
         <source>Press or release</source>
-        <translation type="unfinished"></translation>
+        <translation>Press or release</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Hotkeys and macros cannot type keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hotkeys and macros cannot type keys.</translation>
     </message>
     <message>
         <source>Your settings were damaged and have been reset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your settings were damaged and have been reset.</translation>
     </message>
     <message>
         <source>The damaged file was kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The damaged file was kept as %1.</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>No keypad connected</translation>
     </message>
     <message>
         <source>Virtual keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual keypad connected</translation>
     </message>
     <message>
         <source>Keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad connected</translation>
     </message>
     <message>
         <source>Keypad found, but no permission to use it. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad found, but no permission to use it. %1</translation>
     </message>
     <message>
         <source>Keypad status: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keypad status: %1</translation>
     </message>
     <message>
         <source>%1 could not be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 could not be imported.</translation>
     </message>
     <message>
         <source>Replace the keys of this layout?</source>
-        <translation type="unfinished"></translation>
+        <translation>Replace the keys of this layout?</translation>
     </message>
     <message>
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</translation>
     </message>
     <message numerus="yes">
         <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n key does not fit this layout and will be lost.</numerusform>
+            <numerusform>%n keys do not fit this layout and will be lost.</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>About %1</translation>
     </message>
     <message>
         <source>The desktop companion of your LCD macro keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>The desktop companion of your LCD macro keypad.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>%1 cannot quit now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot quit now.</translation>
     </message>
 </context>
 <context>
     <name>PreferenceDialog</name>
     <message>
         <source>%1 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Settings</translation>
     </message>
     <message>
         <source>Settings pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings pages</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>The settings cannot be closed now.</source>
-        <translation type="unfinished"></translation>
+        <translation>The settings cannot be closed now.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Do you want to update firmware?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to update firmware?</translation>
     </message>
     <message>
         <source>Firmware version %1 is now available - current version %2 Would you like to update now?</source>
         <extracomment>%1 is the firmware this program carries, %2 the firmware on the keypad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Firmware version %1 is now available - current version %2 Would you like to update now?</translation>
     </message>
     <message>
         <source>Choose an image</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose an image</translation>
     </message>
     <message>
         <source>Images (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>All files (*)</translation>
     </message>
     <message>
         <source>Choose a program</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a program</translation>
     </message>
     <message>
         <source>Choose a program, script, document or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose a program, script, document or folder</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
 </context>
 <context>
     <name>ResetPage</name>
     <message>
         <source>Removes every key you made, on all six layouts, folders included, and puts back the keys a new installation starts with. My Favorite and the other settings stay. To keep a copy, use &quot;Back up everything&quot; under Import and export first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Removes every key you made, on all six layouts, folders included, and puts back the keys a new installation starts with. My Favorite and the other settings stay. To keep a copy, use &quot;Back up everything&quot; under Import and export first.</translation>
     </message>
     <message>
         <source>Reset all keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset all keys…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Are you sure you want to reset the keys of every layout?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to reset the keys of every layout?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>You can&apos;t undo this action.</translation>
     </message>
     <message>
         <source>Every layout has its default keys again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Every layout has its default keys again.</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
         <source>The file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be read.</translation>
     </message>
     <message>
         <source>The file is not a Keystage layout or favourites file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is not a Keystage layout or favourites file.</translation>
     </message>
     <message>
         <source>The file was changed or damaged after it was exported: its checksum does not match.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file was changed or damaged after it was exported: its checksum does not match.</translation>
     </message>
 </context>
 <context>
     <name>SoftwareUpdate</name>
     <message>
         <source>Checking for updates is turned off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Checking for updates is turned off.</translation>
     </message>
     <message>
         <source>This build names an update address that is not HTTPS; it is not used.</source>
-        <translation type="unfinished"></translation>
+        <translation>This build names an update address that is not HTTPS; it is not used.</translation>
     </message>
     <message>
         <source>The update information is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information is too large.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Checking for updates…</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>The download was cancelled.</translation>
     </message>
     <message>
         <source>The update server answered with HTTP status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update server answered with HTTP status %1.</translation>
     </message>
     <message>
         <source>The update server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update server did not answer in time.</translation>
     </message>
     <message>
         <source>The update server could not be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The update server could not be reached: %1</translation>
     </message>
     <message>
         <source>Keystage %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage %1 is up to date.</translation>
     </message>
     <message>
         <source>Keystage %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage %1 is available. You have %2.</translation>
     </message>
     <message>
         <source>Downloading Keystage %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloading Keystage %1…</translation>
     </message>
     <message>
         <source>The download cannot be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The download cannot be saved: %1</translation>
     </message>
     <message>
         <source>The package is larger than %1 MB; it is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>The package is larger than %1 MB; it is not downloaded.</translation>
     </message>
     <message>
         <source>The download ended early: %1 of %2 bytes arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>The download ended early: %1 of %2 bytes arrived.</translation>
     </message>
     <message>
         <source>The downloaded package does not match the checksum the update server gave, so it was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>The downloaded package does not match the checksum the update server gave, so it was deleted.</translation>
     </message>
     <message>
         <source>No package installer could be opened. The verified package is saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No package installer could be opened. The verified package is saved as %1.</translation>
     </message>
     <message>
         <source>The package installer has opened Keystage %1. Once it has installed it, restart Keystage to use the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>The package installer has opened Keystage %1. Once it has installed it, restart Keystage to use the new version.</translation>
     </message>
 </context>
 <context>
     <name>SoftwareUpdatePage</name>
     <message>
         <source>Keystage is updated by your distribution&apos;s package manager, together with the rest of the system. Use your software centre or package manager to get new versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage is updated by your distribution&apos;s package manager, together with the rest of the system. Use your software centre or package manager to get new versions.</translation>
     </message>
     <message>
         <source>Updates normally come from your distribution&apos;s package manager. Keystage can also look for a newer release itself; it connects to the network only while this is turned on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates normally come from your distribution&apos;s package manager. Keystage can also look for a newer release itself; it connects to the network only while this is turned on.</translation>
     </message>
     <message>
         <source>Check for &amp;updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Check for &amp;updates</translation>
     </message>
     <message>
         <source>Check &amp;now</source>
-        <translation type="unfinished"></translation>
+        <translation>Check &amp;now</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Install</translation>
     </message>
     <message>
         <source>&amp;Cancel download</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancel download</translation>
     </message>
     <message>
         <source>&amp;Restart Keystage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restart Keystage</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Download progress</translation>
     </message>
     <message>
         <source>Software update</source>
-        <translation type="unfinished"></translation>
+        <translation>Software update</translation>
     </message>
     <message>
         <source>Keystage is still downloading the update. Wait until it has finished, or cancel the download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage is still downloading the update. Wait until it has finished, or cancel the download.</translation>
     </message>
     <message>
         <source>What is new:</source>
-        <translation type="unfinished"></translation>
+        <translation>What is new:</translation>
     </message>
 </context>
 <context>
     <name>StartAtLoginPage</name>
     <message>
         <source>Start %1 when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Start %1 when I log in</translation>
     </message>
     <message>
         <source>%1 starts in the tray, so the keypad works from the start without a window in the way. The desktop reads this from %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 starts in the tray, so the keypad works from the start without a window in the way. The desktop reads this from %2.</translation>
     </message>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Start at login</translation>
     </message>
     <message>
         <source>This could not be changed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>This could not be changed: %1</translation>
     </message>
 </context>
 <context>
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>Text String</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>The key pastes the text through the clipboard, and the text stays on the clipboard afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>The key pastes the text through the clipboard, and the text stays on the clipboard afterwards.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimize</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
 </context>
 <context>
     <name>TitleStyleDialog</name>
     <message>
         <source>Title Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Title Style</translation>
     </message>
     <message>
         <source>&amp;Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Font:</translation>
     </message>
     <message>
         <source>%1 pt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pt</translation>
     </message>
     <message>
         <source>&amp;Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Size:</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bold</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Italic</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Underline</translation>
     </message>
     <message>
         <source>&amp;Color…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color…</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Position:</translation>
     </message>
     <message>
         <source>The key on the keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>The key on the keypad</translation>
     </message>
     <message>
         <source>The key in the editor&apos;s grid</source>
-        <translation type="unfinished"></translation>
+        <translation>The key in the editor&apos;s grid</translation>
     </message>
     <message>
         <source>Preview:</source>
-        <translation type="unfinished"></translation>
+        <translation>Preview:</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Top left</translation>
     </message>
     <message>
         <source>Top center</source>
-        <translation type="unfinished"></translation>
+        <translation>Top center</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Top right</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle left</translation>
     </message>
     <message>
         <source>Middle center</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle center</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle right</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom left</translation>
     </message>
     <message>
         <source>Bottom center</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom center</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom right</translation>
     </message>
     <message>
         <source>Title Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Title Color</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Show</translation>
     </message>
     <message>
         <source>Virtual Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual Keypad</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings…</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit</translation>
     </message>
 </context>
 <context>
     <name>TreeView</name>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Home</translation>
     </message>
     <message>
         <source>Folder tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder tree</translation>
     </message>
 </context>
 <context>
     <name>UpdateFeed</name>
     <message>
         <source>The update information is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information is too large.</translation>
     </message>
     <message>
         <source>The update information is not readable.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information is not readable.</translation>
     </message>
     <message>
         <source>The update information has no valid version.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information has no valid version.</translation>
     </message>
     <message>
         <source>The update information has no valid package address (an HTTPS address of a .deb package).</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information has no valid package address (an HTTPS address of a .deb package).</translation>
     </message>
     <message>
         <source>The update information has no valid SHA-256 checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>The update information has no valid SHA-256 checksum.</translation>
     </message>
 </context>
 <context>
     <name>UserQuestion</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Yes</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continue</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Import</translation>
     </message>
 </context>
 <context>
     <name>VirtualKeypadWindow</name>
     <message>
         <source>Virtual Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Virtual Keypad</translation>
     </message>
     <message>
         <source>unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>unplugged</translation>
     </message>
 </context>
 <context>
     <name>WebsiteForm</name>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Website</translation>
     </message>
     <message>
         <source>example.com or https://…</source>
-        <translation type="unfinished"></translation>
+        <translation>example.com or https://…</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Address</translation>
     </message>
     <message>
         <source>Choose bookmark…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose bookmark…</translation>
     </message>
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>An address without &quot;https://&quot; opens as &quot;http://&quot;.</translation>
     </message>
 </context>
 </TS>

@@ -5,540 +5,540 @@
     <name>AboutPage</name>
     <message>
         <source>%1, version %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, versione %2</translation>
     </message>
     <message>
         <source>The desktop companion of your LCD macro keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;applicazione desktop per il tuo tastierino macro con tasti LCD.</translation>
     </message>
     <message>
         <source>Licences</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenze</translation>
     </message>
     <message>
         <source>%1 is free software: you can redistribute it and modify it under the terms of the GNU General Public License, version 3 or any later version. It comes with no warranty. It is built with Qt %2, used under the GNU Lesser General Public License version 3. Key titles are drawn with the Liberation Sans fonts, used under the SIL Open Font License 1.1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 è software libero: puoi redistribuirlo e modificarlo secondo i termini della GNU General Public License, versione 3 o qualsiasi versione successiva. È fornito senza alcuna garanzia. È realizzato con Qt %2, usato secondo la GNU Lesser General Public License versione 3. I titoli dei tasti sono disegnati con i caratteri Liberation Sans, usati secondo la SIL Open Font License 1.1.</translation>
     </message>
     <message>
         <source>About Qt</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Qt</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Log files</source>
-        <translation type="unfinished"></translation>
+        <translation>File di registro</translation>
     </message>
     <message>
         <source>Open log folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la cartella dei registri</translation>
     </message>
     <message>
         <source>Settings file</source>
-        <translation type="unfinished"></translation>
+        <translation>File delle impostazioni</translation>
     </message>
     <message>
         <source>Open settings folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la cartella delle impostazioni</translation>
     </message>
     <message>
         <source>The settings file carries a checksum: a file changed by hand is not loaded, and the settings start over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file delle impostazioni contiene un codice di controllo: un file modificato a mano non viene caricato e le impostazioni ripartono da zero.</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
 </context>
 <context>
     <name>Accessibility</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
 </context>
 <context>
     <name>ActionList</name>
     <message>
         <source>Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Azioni</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella</translation>
     </message>
     <message>
         <source>Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoia</translation>
     </message>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia</translation>
     </message>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sito web</translation>
     </message>
     <message>
         <source>Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei preferiti</translation>
     </message>
 </context>
 <context>
     <name>AddTextDialog</name>
     <message>
         <source>Add text</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi testo</translation>
     </message>
     <message>
         <source>Each character becomes a press and a release of the key that types it on a US keyboard, with Shift where a US keyboard needs it, the way the keypad types on every desktop. With another keyboard layout active some characters come out differently, and characters a US keyboard lacks are left out. To insert any text as it is, use a Text String key instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni carattere diventa una pressione e un rilascio del tasto che lo digita su una tastiera statunitense, con Maiusc dove una tastiera statunitense lo richiede: è così che il tastierino digita su ogni desktop. Con un&apos;altra disposizione di tastiera attiva alcuni caratteri escono diversi, e i caratteri che mancano su una tastiera statunitense vengono omessi. Per inserire un testo così com&apos;è, usa invece un tasto Testo.</translation>
     </message>
     <message>
         <source>&amp;Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testo:</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo:</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
     <message numerus="yes">
         <source>%n step(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n passo</numerusform>
+            <numerusform>%n passi</numerusform>
         </translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Omessi: %1</translation>
     </message>
 </context>
 <context>
     <name>ApplicationChooser</name>
     <message>
         <source>Choose Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli applicazione</translation>
     </message>
     <message>
         <source>&amp;Installed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installate</translation>
     </message>
     <message>
         <source>&amp;Running</source>
-        <translation type="unfinished"></translation>
+        <translation>In &amp;esecuzione</translation>
     </message>
     <message>
         <source>Where the applications come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Da dove provengono le applicazioni</translation>
     </message>
     <message>
         <source>&amp;Applications:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Applicazioni:</translation>
     </message>
     <message>
         <source>Looking for running applications…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca delle applicazioni in esecuzione…</translation>
     </message>
     <message>
         <source>Looking for installed applications…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca delle applicazioni installate…</translation>
     </message>
     <message>
         <source>This desktop does not tell which applications are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo desktop non indica quali applicazioni sono in esecuzione.</translation>
     </message>
     <message>
         <source>No applications found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna applicazione trovata.</translation>
     </message>
 </context>
 <context>
     <name>AutostartEntry</name>
     <message>
         <source>The folder %1 cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare la cartella %1.</translation>
     </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
     <message>
         <source>Choose Bookmark</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli segnalibro</translation>
     </message>
     <message>
         <source>&amp;Bookmarks:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Segnalibri:</translation>
     </message>
     <message>
         <source>&amp;Use the page title as the key title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usa il titolo della pagina come titolo del tasto</translation>
     </message>
     <message>
         <source>Reading the browsers&apos; bookmarks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura dei segnalibri dei browser…</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>No bookmarks of Firefox, Chromium, Google Chrome, Brave, Vivaldi or Microsoft Edge found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun segnalibro di Firefox, Chromium, Google Chrome, Brave, Vivaldi o Microsoft Edge trovato.</translation>
     </message>
 </context>
 <context>
     <name>ChooserDialog</name>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerca:</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ggiorna</translation>
     </message>
 </context>
 <context>
     <name>ConfigurationBackup</name>
     <message>
         <source>%1 backup %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup %1 %2</translation>
     </message>
     <message>
         <source>vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>verticale</translation>
     </message>
     <message>
         <source>horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>orizzontale</translation>
     </message>
     <message>
         <source>Layout %1 keys %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout %1 tasti %2</translation>
     </message>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei preferiti</translation>
     </message>
     <message>
         <source>The folder %1 does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella %1 non esiste.</translation>
     </message>
     <message>
         <source>No folder can be made in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile creare una cartella in %1.</translation>
     </message>
     <message>
         <source>%1 could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere %1: %2</translation>
     </message>
 </context>
 <context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra di dialogo</translation>
     </message>
     <message>
         <source>icon</source>
-        <translation type="unfinished"></translation>
+        <translation>icona</translation>
     </message>
     <message>
         <source>subject text</source>
-        <translation type="unfinished"></translation>
+        <translation>oggetto</translation>
     </message>
     <message>
         <source>Don&apos;t show again</source>
-        <translation type="unfinished"></translation>
+        <translation>Non mostrare più</translation>
     </message>
     <message>
         <source>other</source>
-        <translation type="unfinished"></translation>
+        <translation>altro</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
     <name>DimmingPage</name>
     <message>
         <source>Dimming</source>
-        <translation type="unfinished"></translation>
+        <translation>Attenuazione</translation>
     </message>
     <message>
         <source>Dim the keypad after</source>
-        <translation type="unfinished"></translation>
+        <translation>Attenua il tastierino dopo</translation>
     </message>
     <message>
         <source>minutes without a key press</source>
-        <translation type="unfinished"></translation>
+        <translation>minuti senza pressione di tasti</translation>
     </message>
     <message>
         <source>Minutes without a key press</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuti senza pressione di tasti</translation>
     </message>
     <message>
         <source>Dimmed brightness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità attenuata:</translation>
     </message>
     <message>
         <source>Dimmed brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità attenuata</translation>
     </message>
     <message>
         <source>Turn the keypad off while the screen is locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Spegni il tastierino mentre lo schermo è bloccato</translation>
     </message>
     <message>
         <source>The next key press brings the brightness back; that press does nothing else.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pressione successiva di un tasto ripristina la luminosità; quella pressione non fa nient&apos;altro.</translation>
     </message>
     <message>
         <source>Unavailable: the keypad connection is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non disponibile: la connessione al tastierino non è attiva.</translation>
     </message>
     <message>
         <source>Unavailable: neither logind nor a screen saver reports screen locks on this desktop (D-Bus).</source>
-        <translation type="unfinished"></translation>
+        <translation>Non disponibile: né logind né un salvaschermo segnalano il blocco dello schermo su questo desktop (D-Bus).</translation>
     </message>
 </context>
 <context>
     <name>EmojiCatalog</name>
     <message>
         <source>The list of emoji (%1) cannot be read. Install the package unicode-data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere l&apos;elenco delle emoji (%1). Installa il pacchetto unicode-data.</translation>
     </message>
     <message>
         <source>The list of emoji (%1) is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;elenco delle emoji (%1) non è valido.</translation>
     </message>
     <message>
         <source>The list of emoji holds no emoji.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;elenco delle emoji non contiene emoji.</translation>
     </message>
 </context>
 <context>
     <name>FaceEditor</name>
     <message>
         <source>Shown on the key</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrato sul tasto</translation>
     </message>
     <message>
         <source>Style…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile…</translation>
     </message>
     <message>
         <source>Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona</translation>
     </message>
     <message>
         <source>Choose icon…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli icona…</translation>
     </message>
     <message>
         <source>Use default icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa l&apos;icona predefinita</translation>
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Della seconda scorciatoia</translation>
     </message>
 </context>
 <context>
     <name>Favorite</name>
     <message>
         <source>My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei preferiti</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Empty slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Posto vuoto</translation>
     </message>
     <message>
         <source>Usage: %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilizzo: %1 / %2</translation>
     </message>
     <message>
         <source>Are you sure you want to reset all favorite items?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristinare davvero tutti i preferiti?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa azione non può essere annullata.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
 </context>
 <context>
     <name>FavoriteKeyItemModel</name>
     <message>
         <source>You have reached the limit of &quot;My Favorite&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hai raggiunto il limite di «I miei preferiti».</translation>
     </message>
     <message>
         <source>Import %1 fails.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importazione di %1 non riuscita.</translation>
     </message>
     <message>
         <source>The limit of &quot;My Favorite&quot; is %1 items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il limite di «I miei preferiti» è di %1 elementi.</translation>
     </message>
     <message>
         <source>You already have %1 item in &quot;My Favorite.&quot; If continues, %2 item will be lost. Are you sure you want to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Hai già %1 elementi in «I miei preferiti». Se continui, %2 elementi andranno persi. Vuoi davvero procedere?</translation>
     </message>
 </context>
 <context>
     <name>FirefoxBookmarks</name>
     <message>
         <source>Bookmarks Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu segnalibri</translation>
     </message>
     <message>
         <source>Bookmarks Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra dei segnalibri</translation>
     </message>
     <message>
         <source>Other Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Altri segnalibri</translation>
     </message>
     <message>
         <source>Mobile Bookmarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnalibri dispositivi mobili</translation>
     </message>
 </context>
 <context>
     <name>FirmwarePage</name>
     <message>
         <source>The keypad runs firmware of its own. This program carries the newest firmware it knows for each keypad model and can install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tastierino esegue un proprio firmware. Questo programma contiene il firmware più recente che conosce per ogni modello di tastierino e può installarlo.</translation>
     </message>
     <message>
         <source>Keypad:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino:</translation>
     </message>
     <message>
         <source>Serial number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di serie:</translation>
     </message>
     <message>
         <source>Installed firmware:</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware installato:</translation>
     </message>
     <message>
         <source>Firmware in this program:</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware in questo programma:</translation>
     </message>
     <message>
         <source>&amp;Update firmware…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aggiorna firmware…</translation>
     </message>
     <message>
         <source>Update progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento dell&apos;aggiornamento</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmware</translation>
     </message>
     <message>
         <source>The firmware update is still running. Closing now could leave the keypad unusable.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;aggiornamento del firmware è ancora in corso. Chiudere ora potrebbe rendere inutilizzabile il tastierino.</translation>
     </message>
     <message>
         <source>Reading the keypad…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del tastierino…</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun tastierino collegato</translation>
     </message>
     <message>
         <source>The keypad does not tell its firmware version. Unplug it, plug it in again and try once more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tastierino non indica la versione del firmware. Scollegalo, ricollegalo e riprova.</translation>
     </message>
     <message>
         <source>This program has no firmware for this keypad (%1), so there is no update to offer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo programma non ha firmware per questo tastierino (%1), quindi non c&apos;è alcun aggiornamento da offrire.</translation>
     </message>
     <message>
         <source>Updating the firmware. Keep the keypad plugged in; its keys do nothing until the update ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento del firmware in corso. Tieni collegato il tastierino; i suoi tasti non fanno nulla finché l&apos;aggiornamento non termina.</translation>
     </message>
     <message>
         <source>The firmware was updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il firmware è stato aggiornato.</translation>
     </message>
     <message>
         <source>The firmware update failed. Keep the keypad plugged in and try again. If it stays dark, unplug it and plug it in again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento del firmware non riuscito. Tieni collegato il tastierino e riprova. Se resta spento, scollegalo e ricollegalo.</translation>
     </message>
 </context>
 <context>
     <name>FolderCondition</name>
     <message>
         <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo desktop non indica quale applicazione è in primo piano, quindi le cartelle non possono aprirsi in base all&apos;applicazione.</translation>
     </message>
 </context>
 <context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella</translation>
     </message>
     <message>
         <source>No application</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna applicazione</translation>
     </message>
     <message>
         <source>Open this folder when an application comes to the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri questa cartella quando un&apos;applicazione passa in primo piano</translation>
     </message>
     <message>
         <source>Choose application…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli applicazione…</translation>
     </message>
     <message>
         <source>Browse…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfoglia…</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>The folder no longer opens by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella non si apre più da sola</translation>
     </message>
 </context>
 <context>
@@ -546,170 +546,176 @@
     <message>
         <source>Folder
 Store an organized group of key actions. Folder can be linked to an application, and folder will open automatically when the application is launched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella
+Raccoglie un gruppo ordinato di azioni dei tasti. Una cartella può essere collegata a un&apos;applicazione e si apre automaticamente quando l&apos;applicazione viene avviata.</translation>
     </message>
     <message>
         <source>Hotkey
 A key or a combination of keys used together to perform a task or function on the operating system or applications. Recall the hotkey action by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoia
+Un tasto o una combinazione di tasti usati insieme per eseguire un&apos;operazione o una funzione del sistema operativo o delle applicazioni. Premi il tasto per richiamare la scorciatoia.</translation>
     </message>
     <message>
         <source>Macro key
 A sequence of commands or keyboard strokes stored in the assigned key. Recall the macro key action by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro
+Una sequenza di comandi o di battute di tasti memorizzata nel tasto assegnato. Premi il tasto per richiamare la macro.</translation>
     </message>
     <message>
         <source>Launch
 Execute an application, file, folder path, or command-line by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia
+Esegue un&apos;applicazione, un file, il percorso di una cartella o una riga di comando quando premi il tasto.</translation>
     </message>
     <message>
         <source>Website
 Search the web or navigate the site by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sito web
+Cerca sul web o apri un sito premendo il tasto.</translation>
     </message>
     <message>
         <source>Text String
 A sequence of characters defined by users. Text string can be text message, source code or script that stored in the assigned key. Recall the text string by pressing on the button.</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo
+Una sequenza di caratteri definita da te. Il testo può essere un messaggio, codice sorgente o uno script memorizzato nel tasto assegnato. Premi il tasto per richiamare il testo.</translation>
     </message>
     <message>
         <source>Drag an action from above list and drop into section on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina un&apos;azione dall&apos;elenco sopra e rilasciala su un tasto a sinistra.</translation>
     </message>
 </context>
 <context>
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoia</translation>
     </message>
     <message>
         <source>Key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinazione di tasti</translation>
     </message>
     <message>
         <source>Toggle between two hotkeys</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterna tra due scorciatoie</translation>
     </message>
     <message>
         <source>Second key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconda combinazione di tasti</translation>
     </message>
     <message>
         <source>Second title</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondo titolo</translation>
     </message>
     <message>
         <source>The keypad shows the first hotkey now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora il tastierino mostra la prima scorciatoia.</translation>
     </message>
     <message>
         <source>The keypad shows the second hotkey now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora il tastierino mostra la seconda scorciatoia.</translation>
     </message>
 </context>
 <context>
     <name>HotkeyRecorder</name>
     <message>
         <source>Press a key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi una combinazione di tasti</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Non impostata</translation>
     </message>
     <message>
         <source>That key cannot be typed. Press another one</source>
-        <translation type="unfinished"></translation>
+        <translation>Quel tasto non può essere digitato. Premine un altro</translation>
     </message>
     <message>
         <source>Click, or press Enter or Space, to record a key combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic, oppure premi Invio o Spazio, per registrare una combinazione di tasti</translation>
     </message>
     <message>
         <source>Keys a keyboard may lack</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti che possono mancare su una tastiera</translation>
     </message>
 </context>
 <context>
     <name>IconChooser</name>
     <message>
         <source>Choose Icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli icona</translation>
     </message>
     <message>
         <source>Image &amp;file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File immagine</translation>
     </message>
     <message>
         <source>Icon &amp;theme</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tema di icone</translation>
     </message>
     <message>
         <source>&amp;Emoji</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Emoji</translation>
     </message>
     <message>
         <source>The key with this icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tasto con questa icona</translation>
     </message>
     <message>
         <source>Choose image file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli file immagine…</translation>
     </message>
     <message>
         <source>PNG, JPEG, SVG, WebP, GIF (its first picture) and the other image formats of this system. The picture is fitted into the key without distortion; transparent parts stay transparent.</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, JPEG, SVG, WebP, GIF (la sua prima immagine) e gli altri formati di immagine di questo sistema. L&apos;immagine viene adattata al tasto senza distorsioni; le parti trasparenti restano trasparenti.</translation>
     </message>
     <message>
         <source>&amp;Icons:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Icone:</translation>
     </message>
     <message>
         <source>E&amp;moji:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;moji:</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere %1: %2</translation>
     </message>
     <message>
         <source>Reading the icon theme…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del tema di icone…</translation>
     </message>
     <message>
         <source>Reading the emoji…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura delle emoji…</translation>
     </message>
     <message>
         <source>The icon theme &quot;%1&quot; has no icons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tema di icone «%1» non ha icone.</translation>
     </message>
     <message>
         <source>No icon chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna icona scelta.</translation>
     </message>
 </context>
 <context>
     <name>IconGridPage</name>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerca:</translation>
     </message>
     <message>
         <source>Type words of the name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digita parole del nome</translation>
     </message>
     <message>
         <source>Nothing matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun risultato per la ricerca.</translation>
     </message>
     <message numerus="yes">
         <source>%n shown</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mostrato</numerusform>
+            <numerusform>%n mostrati</numerusform>
         </translation>
     </message>
 </context>
@@ -717,1127 +723,1127 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>ImportExportPage</name>
     <message>
         <source>Export layout…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta layout…</translation>
     </message>
     <message>
         <source>The keys of the layout in use, with their folders, as a .kslayout file.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tasti del layout in uso, con le loro cartelle, in un file .kslayout.</translation>
     </message>
     <message>
         <source>Export My Favorite…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta I miei preferiti…</translation>
     </message>
     <message>
         <source>All of My Favorite as a .ksfavorites file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i preferiti in un file .ksfavorites.</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa…</translation>
     </message>
     <message>
         <source>A .kslayout file replaces the keys of the layout in use; a .ksfavorites file adds to My Favorite. You are asked first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file .kslayout sostituisce i tasti del layout in uso; un file .ksfavorites si aggiunge a I miei preferiti. Prima ti viene chiesta conferma.</translation>
     </message>
     <message>
         <source>Back up everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup completo…</translation>
     </message>
     <message>
         <source>Every layout and My Favorite, each in a file of its own, into a new dated folder inside the folder you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni layout e I miei preferiti, ciascuno in un proprio file, in una nuova cartella datata all&apos;interno della cartella scelta.</translation>
     </message>
     <message>
         <source>Import and export</source>
-        <translation type="unfinished"></translation>
+        <translation>Importazione ed esportazione</translation>
     </message>
     <message>
         <source>Export layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta layout</translation>
     </message>
     <message>
         <source>Keystage layout (*.kslayout)</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout Keystage (*.kslayout)</translation>
     </message>
     <message>
         <source>The layout was exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layout è stato esportato in %1.</translation>
     </message>
     <message>
         <source>The layout could not be exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile esportare il layout in %1.</translation>
     </message>
     <message>
         <source>Export My Favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta I miei preferiti</translation>
     </message>
     <message>
         <source>Keystage favorites (*.ksfavorites)</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferiti Keystage (*.ksfavorites)</translation>
     </message>
     <message>
         <source>My Favorite was exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei preferiti sono stati esportati in %1.</translation>
     </message>
     <message>
         <source>My Favorite could not be exported to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile esportare I miei preferiti in %1.</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa</translation>
     </message>
     <message>
         <source>Keystage files (*.kslayout *.ksfavorites);;Keystage layout (*.kslayout);;Keystage favorites (*.ksfavorites)</source>
-        <translation type="unfinished"></translation>
+        <translation>File Keystage (*.kslayout *.ksfavorites);;Layout Keystage (*.kslayout);;Preferiti Keystage (*.ksfavorites)</translation>
     </message>
     <message>
         <source>Back up everything into</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui il backup completo in</translation>
     </message>
     <message numerus="yes">
         <source>%n files were written to %1.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n file è stato scritto in %1.</numerusform>
+            <numerusform>%n file sono stati scritti in %1.</numerusform>
         </translation>
     </message>
     <message>
         <source>The backup failed. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup non riuscito. %1</translation>
     </message>
 </context>
 <context>
     <name>InsertKeyDialog</name>
     <message>
         <source>Insert key</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci tasto</translation>
     </message>
     <message>
         <source>&amp;Key to insert (a press and a release, with its modifiers around it):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tasto da inserire (una pressione e un rilascio, con i suoi modificatori intorno):</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci</translation>
     </message>
 </context>
 <context>
     <name>KeyChord</name>
     <message>
         <source>Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Super</translation>
     </message>
 </context>
 <context>
     <name>KeyGridContextMenu</name>
     <message>
         <source>&amp;New Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuova cartella</translation>
     </message>
     <message>
         <source>&amp;Create Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crea azioni</translation>
     </message>
     <message>
         <source>&amp;Hotkey</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Scorciatoia</translation>
     </message>
     <message>
         <source>&amp;Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Macro</translation>
     </message>
     <message>
         <source>&amp;Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avvia</translation>
     </message>
     <message>
         <source>&amp;Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sito &amp;web</translation>
     </message>
     <message>
         <source>&amp;Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Testo</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taglia</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;opia</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incolla</translation>
     </message>
     <message>
         <source>&amp;Save as favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva come preferito</translation>
     </message>
 </context>
 <context>
     <name>KeyGridController</name>
     <message>
         <source>The limit of folder is different.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il limite di cartelle è diverso.</translation>
     </message>
     <message>
         <source>If continues, some items may be lost. Are you sure you want to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Se continui, alcuni elementi potrebbero andare persi. Vuoi davvero procedere?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare davvero questo elemento?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa azione non può essere annullata.</translation>
     </message>
     <message>
         <source>Don&apos;t ask me again</source>
-        <translation type="unfinished"></translation>
+        <translation>Non chiedere più</translation>
     </message>
 </context>
 <context>
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
 </context>
 <context>
     <name>KeyItemGridView</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti</translation>
     </message>
     <message>
         <source>Key %1: empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto %1: vuoto</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto %1: %2</translation>
     </message>
     <message>
         <source>Key %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto %1: %2, %3</translation>
     </message>
 </context>
 <context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n passo</numerusform>
+            <numerusform>%n passi</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n key(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tasto</numerusform>
+            <numerusform>%n tasti</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>KeyMapping</name>
     <message>
         <source>Unknown key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto sconosciuto</translation>
     </message>
     <message>
         <source>Left Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Super sinistro</translation>
     </message>
     <message>
         <source>Right Super</source>
-        <translation type="unfinished"></translation>
+        <translation>Super destro</translation>
     </message>
     <message>
         <source>Left Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc sinistro</translation>
     </message>
     <message>
         <source>Right Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc destro</translation>
     </message>
     <message>
         <source>Left Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl sinistro</translation>
     </message>
     <message>
         <source>Right Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl destro</translation>
     </message>
     <message>
         <source>Left Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt sinistro</translation>
     </message>
     <message>
         <source>Right Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt destro</translation>
     </message>
 </context>
 <context>
     <name>KeyPickerMenu</name>
     <message>
         <source>F13 to F24</source>
-        <translation type="unfinished"></translation>
+        <translation>Da F13 a F24</translation>
     </message>
     <message>
         <source>Keys the recorder uses</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasti usati dal registratore</translation>
     </message>
 </context>
 <context>
     <name>KeypadAccess</name>
     <message>
         <source>Install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), then run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; or unplug and replug the keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installa la regola udev 70-keystage.rules (in /etc/udev/rules.d, a meno che un pacchetto non l&apos;abbia messa in /usr/lib/udev/rules.d), poi esegui «sudo udevadm control --reload &amp;&amp; sudo udevadm trigger» oppure scollega e ricollega il tastierino.</translation>
     </message>
 </context>
 <context>
     <name>KeypadPage</name>
     <message>
         <source>Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di serie</translation>
     </message>
     <message>
         <source>Firmware version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versione del firmware</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Set on the keypad as you move it, and on every keypad you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Applicata al tastierino mentre la regoli, e a ogni tastierino che colleghi.</translation>
     </message>
     <message>
         <source>Show logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra logo</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun tastierino collegato</translation>
     </message>
     <message>
         <source>Reading the keypad…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del tastierino…</translation>
     </message>
     <message>
         <source>The keypad does not answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tastierino non risponde.</translation>
     </message>
     <message>
         <source>The keypad shows its logo for a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tastierino mostra il suo logo per un momento.</translation>
     </message>
     <message>
         <source>The keypad did not show its logo.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tastierino non ha mostrato il suo logo.</translation>
     </message>
 </context>
 <context>
     <name>KeystrokeBackend</name>
     <message>
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per permettere loro di digitare, installa la regola udev 70-keystage.rules (in /etc/udev/rules.d, a meno che un pacchetto non l&apos;abbia messa in /usr/lib/udev/rules.d) ed esegui «sudo udevadm control --reload &amp;&amp; sudo udevadm trigger», oppure accedi a una sessione X11.</translation>
     </message>
 </context>
 <context>
     <name>LanguagePage</name>
     <message>
         <source>The language of %1&apos;s windows. It changes when %1 starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lingua delle finestre di %1. Cambia al prossimo avvio di %1.</translation>
     </message>
     <message>
         <source>Use this language</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa questa lingua</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua</translation>
     </message>
     <message>
         <source>The language could not be stored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare la lingua.</translation>
     </message>
     <message>
         <source>Restart %1 now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Riavviare %1 ora?</translation>
     </message>
     <message>
         <source>%1 is used from the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 verrà usato dal prossimo avvio.</translation>
     </message>
 </context>
 <context>
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia</translation>
     </message>
     <message>
         <source>A program, script, document or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un programma, uno script, un documento o una cartella</translation>
     </message>
     <message>
         <source>Command</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando</translation>
     </message>
     <message>
         <source>Choose file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli file…</translation>
     </message>
     <message>
         <source>Choose application…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli applicazione…</translation>
     </message>
     <message>
         <source>Use as title</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa come titolo</translation>
     </message>
     <message>
         <source>Use &quot;%1&quot; as the title?</source>
-        <translation type="unfinished"></translation>
+        <translation>Usare «%1» come titolo?</translation>
     </message>
 </context>
 <context>
     <name>LayoutPage</name>
     <message>
         <source>Choose the keypad you use and how you hold it. The editor and the keypad change at once; every layout keeps its own keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli il tastierino che usi e come lo tieni. L&apos;editor e il tastierino cambiano subito; ogni layout conserva i propri tasti.</translation>
     </message>
     <message>
         <source>Keypad size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione del tastierino</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>Orientamento</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Orizzontale</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Verticale</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout</translation>
     </message>
 </context>
 <context>
     <name>LayoutText</name>
     <message>
         <source>%1 keys</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tasti</translation>
     </message>
     <message>
         <source>%1 keys, vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tasti, verticale</translation>
     </message>
     <message>
         <source>%1 keys, horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tasti, orizzontale</translation>
     </message>
 </context>
 <context>
     <name>MacroEditor</name>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma</translation>
     </message>
     <message>
         <source>&amp;Steps:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passi:</translation>
     </message>
     <message>
         <source>Steps:</source>
-        <translation type="unfinished"></translation>
+        <translation>Passi:</translation>
     </message>
     <message>
         <source>Insert key…</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci tasto…</translation>
     </message>
     <message>
         <source>Add text…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi testo…</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta su</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta giù</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella</translation>
     </message>
     <message>
         <source>Add the missing releases</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi i rilasci mancanti</translation>
     </message>
     <message>
         <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrazione: premi i tasti della macro. Esc da solo o Ferma termina la registrazione.</translation>
     </message>
     <message numerus="yes">
         <source>%n key(s) that cannot be typed left out.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tasto non digitabile omesso.</numerusform>
+            <numerusform>%n tasti non digitabili omessi.</numerusform>
         </translation>
     </message>
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
-        <translation type="unfinished"></translation>
+        <translation>La macro lascia %1 premuto: resta premuto dopo l&apos;esecuzione della macro.</translation>
     </message>
 </context>
 <context>
     <name>MacroForm</name>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro</translation>
     </message>
     <message>
         <source>Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Passi</translation>
     </message>
 </context>
 <context>
     <name>MacroStepModel</name>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Giù</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Su</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>
         <extracomment>A macro step, as a screen reader reads it: &quot;3: Shift down&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 %3</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto</translation>
     </message>
     <message>
         <source>Press or release</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione o rilascio</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Hotkeys and macros cannot type keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scorciatoie e macro non possono digitare tasti.</translation>
     </message>
     <message>
         <source>Your settings were damaged and have been reset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le impostazioni erano danneggiate e sono state ripristinate.</translation>
     </message>
     <message>
         <source>The damaged file was kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file danneggiato è stato conservato come %1.</translation>
     </message>
     <message>
         <source>No keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun tastierino collegato</translation>
     </message>
     <message>
         <source>Virtual keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino virtuale collegato</translation>
     </message>
     <message>
         <source>Keypad connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino collegato</translation>
     </message>
     <message>
         <source>Keypad found, but no permission to use it. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino trovato, ma senza il permesso di usarlo. %1</translation>
     </message>
     <message>
         <source>Keypad status: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato del tastierino: %1</translation>
     </message>
     <message>
         <source>%1 could not be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile importare %1.</translation>
     </message>
     <message>
         <source>Replace the keys of this layout?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sostituire i tasti di questo layout?</translation>
     </message>
     <message>
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tasti del layout attuale vengono sostituiti da quelli di %1. Questa azione non può essere annullata.</translation>
     </message>
     <message numerus="yes">
         <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n tasto non entra in questo layout e andrà perso.</numerusform>
+            <numerusform>%n tasti non entrano in questo layout e andranno persi.</numerusform>
         </translation>
     </message>
     <message>
         <source>About %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su %1</translation>
     </message>
     <message>
         <source>The desktop companion of your LCD macro keypad.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;applicazione desktop per il tuo tastierino macro con tasti LCD.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>%1 cannot quit now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può uscire ora.</translation>
     </message>
 </context>
 <context>
     <name>PreferenceDialog</name>
     <message>
         <source>%1 Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni di %1</translation>
     </message>
     <message>
         <source>Settings pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine delle impostazioni</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>The settings cannot be closed now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le impostazioni non possono essere chiuse ora.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Do you want to update firmware?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornare il firmware?</translation>
     </message>
     <message>
         <source>Firmware version %1 is now available - current version %2 Would you like to update now?</source>
         <extracomment>%1 is the firmware this program carries, %2 the firmware on the keypad.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>È disponibile la versione %1 del firmware; versione attuale: %2. Vuoi aggiornare ora?</translation>
     </message>
     <message>
         <source>Choose an image</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un&apos;immagine</translation>
     </message>
     <message>
         <source>Images (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini (%1)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file (*)</translation>
     </message>
     <message>
         <source>Choose a program</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un programma</translation>
     </message>
     <message>
         <source>Choose a program, script, document or folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli un programma, uno script, un documento o una cartella</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Alt</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc</translation>
     </message>
 </context>
 <context>
     <name>ResetPage</name>
     <message>
         <source>Removes every key you made, on all six layouts, folders included, and puts back the keys a new installation starts with. My Favorite and the other settings stay. To keep a copy, use &quot;Back up everything&quot; under Import and export first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuove ogni tasto che hai creato, su tutti e sei i layout, cartelle comprese, e rimette i tasti di una nuova installazione. I miei preferiti e le altre impostazioni restano. Per conservarne una copia, usa prima «Backup completo» in Importazione ed esportazione.</translation>
     </message>
     <message>
         <source>Reset all keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina tutti i tasti…</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Are you sure you want to reset the keys of every layout?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristinare davvero i tasti di tutti i layout?</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa azione non può essere annullata.</translation>
     </message>
     <message>
         <source>Every layout has its default keys again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni layout ha di nuovo i suoi tasti predefiniti.</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
         <source>The file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il file.</translation>
     </message>
     <message>
         <source>The file is not a Keystage layout or favourites file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file non è un file di layout o di preferiti di Keystage.</translation>
     </message>
     <message>
         <source>The file was changed or damaged after it was exported: its checksum does not match.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file è stato modificato o danneggiato dopo l&apos;esportazione: il suo codice di controllo non corrisponde.</translation>
     </message>
 </context>
 <context>
     <name>SoftwareUpdate</name>
     <message>
         <source>Checking for updates is turned off.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ricerca degli aggiornamenti è disattivata.</translation>
     </message>
     <message>
         <source>This build names an update address that is not HTTPS; it is not used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa build indica un indirizzo di aggiornamento non HTTPS; non viene usato.</translation>
     </message>
     <message>
         <source>The update information is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento sono troppo grandi.</translation>
     </message>
     <message>
         <source>Checking for updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricerca di aggiornamenti…</translation>
     </message>
     <message>
         <source>The download was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scaricamento è stato annullato.</translation>
     </message>
     <message>
         <source>The update server answered with HTTP status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti ha risposto con lo stato HTTP %1.</translation>
     </message>
     <message>
         <source>The update server did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server degli aggiornamenti non ha risposto in tempo.</translation>
     </message>
     <message>
         <source>The update server could not be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile raggiungere il server degli aggiornamenti: %1</translation>
     </message>
     <message>
         <source>Keystage %1 is up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage %1 è aggiornato.</translation>
     </message>
     <message>
         <source>Keystage %1 is available. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>È disponibile Keystage %1. Hai la versione %2.</translation>
     </message>
     <message>
         <source>Downloading Keystage %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scaricamento di Keystage %1…</translation>
     </message>
     <message>
         <source>The download cannot be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare lo scaricamento: %1</translation>
     </message>
     <message>
         <source>The package is larger than %1 MB; it is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il pacchetto supera %1 MB; non viene scaricato.</translation>
     </message>
     <message>
         <source>The download ended early: %1 of %2 bytes arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo scaricamento si è interrotto prima: sono arrivati %1 byte su %2.</translation>
     </message>
     <message>
         <source>The downloaded package does not match the checksum the update server gave, so it was deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il pacchetto scaricato non corrisponde al codice di controllo fornito dal server degli aggiornamenti, quindi è stato eliminato.</translation>
     </message>
     <message>
         <source>No package installer could be opened. The verified package is saved as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire un programma di installazione dei pacchetti. Il pacchetto verificato è salvato come %1.</translation>
     </message>
     <message>
         <source>The package installer has opened Keystage %1. Once it has installed it, restart Keystage to use the new version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma di installazione dei pacchetti ha aperto Keystage %1. Una volta installato, riavvia Keystage per usare la nuova versione.</translation>
     </message>
 </context>
 <context>
     <name>SoftwareUpdatePage</name>
     <message>
         <source>Keystage is updated by your distribution&apos;s package manager, together with the rest of the system. Use your software centre or package manager to get new versions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage viene aggiornato dal gestore dei pacchetti della tua distribuzione, insieme al resto del sistema. Usa il tuo gestore del software o dei pacchetti per ottenere le nuove versioni.</translation>
     </message>
     <message>
         <source>Updates normally come from your distribution&apos;s package manager. Keystage can also look for a newer release itself; it connects to the network only while this is turned on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Di norma gli aggiornamenti arrivano dal gestore dei pacchetti della tua distribuzione. Keystage può anche cercare da sé una versione più recente; si connette alla rete solo mentre questa opzione è attiva.</translation>
     </message>
     <message>
         <source>Check for &amp;updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca &amp;aggiornamenti</translation>
     </message>
     <message>
         <source>Check &amp;now</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca &amp;ora</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installa</translation>
     </message>
     <message>
         <source>&amp;Cancel download</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnulla scaricamento</translation>
     </message>
     <message>
         <source>&amp;Restart Keystage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Riavvia Keystage</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanzamento dello scaricamento</translation>
     </message>
     <message>
         <source>Software update</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiornamento software</translation>
     </message>
     <message>
         <source>Keystage is still downloading the update. Wait until it has finished, or cancel the download.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keystage sta ancora scaricando l&apos;aggiornamento. Attendi la fine dello scaricamento oppure annullalo.</translation>
     </message>
     <message>
         <source>What is new:</source>
-        <translation type="unfinished"></translation>
+        <translation>Novità:</translation>
     </message>
 </context>
 <context>
     <name>StartAtLoginPage</name>
     <message>
         <source>Start %1 when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia %1 all&apos;accesso</translation>
     </message>
     <message>
         <source>%1 starts in the tray, so the keypad works from the start without a window in the way. The desktop reads this from %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 si avvia nell&apos;area di notifica, così il tastierino funziona fin dall&apos;inizio senza finestre in mezzo. Il desktop legge questa impostazione da %2.</translation>
     </message>
     <message>
         <source>Start at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvio all&apos;accesso</translation>
     </message>
     <message>
         <source>This could not be changed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile modificare questa impostazione: %1</translation>
     </message>
 </context>
 <context>
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>The key pastes the text through the clipboard, and the text stays on the clipboard afterwards.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tasto incolla il testo tramite gli appunti, e il testo resta negli appunti anche dopo.</translation>
     </message>
 </context>
 <context>
     <name>TitleBar</name>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizza</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
 </context>
 <context>
     <name>TitleStyleDialog</name>
     <message>
         <source>Title Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile del titolo</translation>
     </message>
     <message>
         <source>&amp;Font:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carattere:</translation>
     </message>
     <message>
         <source>%1 pt</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pt</translation>
     </message>
     <message>
         <source>&amp;Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dimensione:</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grassetto</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>Cors&amp;ivo</translation>
     </message>
     <message>
         <source>&amp;Underline</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sottolineato</translation>
     </message>
     <message>
         <source>&amp;Color…</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olore…</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore:</translation>
     </message>
     <message>
         <source>Position:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione:</translation>
     </message>
     <message>
         <source>The key on the keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tasto sul tastierino</translation>
     </message>
     <message>
         <source>The key in the editor&apos;s grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tasto nella griglia dell&apos;editor</translation>
     </message>
     <message>
         <source>Preview:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima:</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto a sinistra</translation>
     </message>
     <message>
         <source>Top center</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto al centro</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto a destra</translation>
     </message>
     <message>
         <source>Middle left</source>
-        <translation type="unfinished"></translation>
+        <translation>Al centro a sinistra</translation>
     </message>
     <message>
         <source>Middle center</source>
-        <translation type="unfinished"></translation>
+        <translation>Al centro</translation>
     </message>
     <message>
         <source>Middle right</source>
-        <translation type="unfinished"></translation>
+        <translation>Al centro a destra</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso a sinistra</translation>
     </message>
     <message>
         <source>Bottom center</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso al centro</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso a destra</translation>
     </message>
     <message>
         <source>Title Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore del titolo</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra</translation>
     </message>
     <message>
         <source>Virtual Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino virtuale</translation>
     </message>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci</translation>
     </message>
 </context>
 <context>
     <name>TreeView</name>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio</translation>
     </message>
     <message>
         <source>Folder tree</source>
-        <translation type="unfinished"></translation>
+        <translation>Albero delle cartelle</translation>
     </message>
 </context>
 <context>
     <name>UpdateFeed</name>
     <message>
         <source>The update information is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento sono troppo grandi.</translation>
     </message>
     <message>
         <source>The update information is not readable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento non sono leggibili.</translation>
     </message>
     <message>
         <source>The update information has no valid version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento non hanno una versione valida.</translation>
     </message>
     <message>
         <source>The update information has no valid package address (an HTTPS address of a .deb package).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento non hanno un indirizzo di pacchetto valido (un indirizzo HTTPS di un pacchetto .deb).</translation>
     </message>
     <message>
         <source>The update information has no valid SHA-256 checksum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le informazioni di aggiornamento non hanno un codice di controllo SHA-256 valido.</translation>
     </message>
 </context>
 <context>
     <name>UserQuestion</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continua</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa</translation>
     </message>
 </context>
 <context>
     <name>VirtualKeypadWindow</name>
     <message>
         <source>Virtual Keypad</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastierino virtuale</translation>
     </message>
     <message>
         <source>unplugged</source>
-        <translation type="unfinished"></translation>
+        <translation>scollegato</translation>
     </message>
 </context>
 <context>
     <name>WebsiteForm</name>
     <message>
         <source>Website</source>
-        <translation type="unfinished"></translation>
+        <translation>Sito web</translation>
     </message>
     <message>
         <source>example.com or https://…</source>
-        <translation type="unfinished"></translation>
+        <translation>example.com o https://…</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Indirizzo</translation>
     </message>
     <message>
         <source>Choose bookmark…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli segnalibro…</translation>
     </message>
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un indirizzo senza «https://» si apre come «http://».</translation>
     </message>
 </context>
 </TS>
