@@ -79,6 +79,7 @@
     </message>
     <message>
         <source>Launch</source>
+        <extracomment>The action that starts a program or opens a file or folder.</extracomment>
         <translation>Launch</translation>
     </message>
     <message>
@@ -855,6 +856,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>&amp;Launch</source>
+        <extracomment>The action that starts a program or opens a file (a verb, as in the action palette).</extracomment>
         <translation>&amp;Launch</translation>
     </message>
     <message>
@@ -920,14 +922,17 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeyItemGridView</name>
     <message>
         <source>Keys</source>
+        <extracomment>The keys of the keypad, as the editor shows them.</extracomment>
         <translation>Keys</translation>
     </message>
     <message>
         <source>Key %1: empty</source>
+        <extracomment>%1 is the number of a key on the keypad.</extracomment>
         <translation>Key %1: empty</translation>
     </message>
     <message>
         <source>Back</source>
+        <extracomment>The key that leads out of a folder page, back to the page above.</extracomment>
         <translation>Back</translation>
     </message>
     <message>
@@ -1025,6 +1030,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeypadPage</name>
     <message>
         <source>Keypad</source>
+        <extracomment>The USB keypad with LCD keys this program drives.</extracomment>
         <translation>Keypad</translation>
     </message>
     <message>
@@ -1260,6 +1266,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>MacroStepModel</name>
     <message>
         <source>Down</source>
+        <extracomment>A macro step presses (Down) or releases (Up) a key; read aloud after the key name.</extracomment>
         <translation>Down</translation>
     </message>
     <message>
@@ -1273,6 +1280,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Key</source>
+        <extracomment>Column header: the keyboard key a macro step presses or releases.</extracomment>
         <translation>Key</translation>
     </message>
     <message>
@@ -1747,6 +1755,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>TreeView</name>
     <message>
         <source>Home</source>
+        <extracomment>The top page of the keypad, above every folder.</extracomment>
         <translation>Home</translation>
     </message>
     <message>

@@ -79,6 +79,7 @@
     </message>
     <message>
         <source>Launch</source>
+        <extracomment>The action that starts a program or opens a file or folder.</extracomment>
         <translation>Lancer</translation>
     </message>
     <message>
@@ -855,6 +856,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
     <message>
         <source>&amp;Launch</source>
+        <extracomment>The action that starts a program or opens a file (a verb, as in the action palette).</extracomment>
         <translation>&amp;Lancer</translation>
     </message>
     <message>
@@ -920,14 +922,17 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>KeyItemGridView</name>
     <message>
         <source>Keys</source>
+        <extracomment>The keys of the keypad, as the editor shows them.</extracomment>
         <translation>Touches</translation>
     </message>
     <message>
         <source>Key %1: empty</source>
+        <extracomment>%1 is the number of a key on the keypad.</extracomment>
         <translation>Touche %1&#xa0;: vide</translation>
     </message>
     <message>
         <source>Back</source>
+        <extracomment>The key that leads out of a folder page, back to the page above.</extracomment>
         <translation>Retour</translation>
     </message>
     <message>
@@ -1025,6 +1030,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>KeypadPage</name>
     <message>
         <source>Keypad</source>
+        <extracomment>The USB keypad with LCD keys this program drives.</extracomment>
         <translation>Pavé</translation>
     </message>
     <message>
@@ -1260,6 +1266,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>MacroStepModel</name>
     <message>
         <source>Down</source>
+        <extracomment>A macro step presses (Down) or releases (Up) a key; read aloud after the key name.</extracomment>
         <translation>Appui</translation>
     </message>
     <message>
@@ -1273,6 +1280,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
     <message>
         <source>Key</source>
+        <extracomment>Column header: the keyboard key a macro step presses or releases.</extracomment>
         <translation>Touche</translation>
     </message>
     <message>
@@ -1747,6 +1755,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>TreeView</name>
     <message>
         <source>Home</source>
+        <extracomment>The top page of the keypad, above every folder.</extracomment>
         <translation>Accueil</translation>
     </message>
     <message>

@@ -79,6 +79,7 @@
     </message>
     <message>
         <source>Launch</source>
+        <extracomment>The action that starts a program or opens a file or folder.</extracomment>
         <translation>啟動</translation>
     </message>
     <message>
@@ -852,6 +853,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>&amp;Launch</source>
+        <extracomment>The action that starts a program or opens a file (a verb, as in the action palette).</extracomment>
         <translation>啟動(&amp;L)</translation>
     </message>
     <message>
@@ -917,14 +919,17 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeyItemGridView</name>
     <message>
         <source>Keys</source>
+        <extracomment>The keys of the keypad, as the editor shows them.</extracomment>
         <translation>按鍵</translation>
     </message>
     <message>
         <source>Key %1: empty</source>
+        <extracomment>%1 is the number of a key on the keypad.</extracomment>
         <translation>按鍵 %1：空白</translation>
     </message>
     <message>
         <source>Back</source>
+        <extracomment>The key that leads out of a folder page, back to the page above.</extracomment>
         <translation>返回</translation>
     </message>
     <message>
@@ -1020,6 +1025,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeypadPage</name>
     <message>
         <source>Keypad</source>
+        <extracomment>The USB keypad with LCD keys this program drives.</extracomment>
         <translation>按鍵面板</translation>
     </message>
     <message>
@@ -1254,6 +1260,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>MacroStepModel</name>
     <message>
         <source>Down</source>
+        <extracomment>A macro step presses (Down) or releases (Up) a key; read aloud after the key name.</extracomment>
         <translation>按下</translation>
     </message>
     <message>
@@ -1267,6 +1274,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Key</source>
+        <extracomment>Column header: the keyboard key a macro step presses or releases.</extracomment>
         <translation>按鍵</translation>
     </message>
     <message>
@@ -1740,6 +1748,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>TreeView</name>
     <message>
         <source>Home</source>
+        <extracomment>The top page of the keypad, above every folder.</extracomment>
         <translation>首頁</translation>
     </message>
     <message>
