@@ -186,11 +186,14 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("settings");
         QTest::newRow("none") << -1 << QString() << "Settings";
-        QTest::newRow("en") << 0 << ":/translator/en-us.qm" << "Settings";
+        QTest::newRow("en") << 0 << ":/translator/en-us.qm"
+                            << "Settings";
         QTest::newRow("ja") << 1 << ":/translator/ja.qm" << QStringLiteral("設定");
         QTest::newRow("zh-TW") << 2 << ":/translator/zh-TW.qm" << QStringLiteral("設定");
-        QTest::newRow("it") << 3 << ":/translator/it.qm" << "Impostazioni";
-        QTest::newRow("de") << 4 << ":/translator/de.qm" << "Einstellungen";
+        QTest::newRow("it") << 3 << ":/translator/it.qm"
+                            << "Impostazioni";
+        QTest::newRow("de") << 4 << ":/translator/de.qm"
+                            << "Einstellungen";
         QTest::newRow("fr") << 5 << ":/translator/fr.qm" << QStringLiteral("Paramètres");
         QTest::newRow("6") << 6 << QString() << "Settings";
         QTest::newRow("-5") << -5 << QString() << "Settings";
