@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation>Des zweiten Tastenkürzels</translation>
+        <translation>Für das zweite Tastenkürzel</translation>
     </message>
 </context>
 <context>

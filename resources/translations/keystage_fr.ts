@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation>Du second raccourci</translation>
+        <translation>Pour le second raccourci</translation>
     </message>
 </context>
 <context>

@@ -365,7 +365,7 @@
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation>Della seconda scorciatoia</translation>
+        <translation>Per la seconda scorciatoia</translation>
     </message>
 </context>
 <context>
@@ -1267,11 +1267,11 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <message>
         <source>Down</source>
         <extracomment>A macro step presses (Down) or releases (Up) a key; read aloud after the key name.</extracomment>
-        <translation>Giù</translation>
+        <translation>Pressione</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation>Su</translation>
+        <translation>Rilascio</translation>
     </message>
     <message>
         <source>%1: %2 %3</source>

@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation>2 つ目のホットキー</translation>
+        <translation>2 つ目のホットキー用</translation>
     </message>
 </context>
 <context>

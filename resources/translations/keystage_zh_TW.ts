@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>Of the second hotkey</source>
-        <translation>第二組快捷鍵的</translation>
+        <translation>用於第二組快捷鍵</translation>
     </message>
 </context>
 <context>
