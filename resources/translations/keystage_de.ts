@@ -945,6 +945,39 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     </message>
 </context>
 <context>
+    <name>KeyItemModel</name>
+    <message>
+        <source>Copy</source>
+        <extracomment>Title of a default key (the Copy hotkey); a key face is 72 pixels wide.</extracomment>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <extracomment>Title of a default key (the Paste hotkey).</extracomment>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <extracomment>Title of a default folder key holding the volume keys.</extracomment>
+        <translation>Medien</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <extracomment>Title of a default key: mutes the sound.</extracomment>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Vol -</source>
+        <extracomment>Title of a default key: turns the volume down.</extracomment>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <extracomment>Title of a default key: turns the volume up.</extracomment>
+        <translation>Lauter</translation>
+    </message>
+</context>
+<context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>

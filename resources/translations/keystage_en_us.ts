@@ -945,6 +945,39 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
 </context>
 <context>
+    <name>KeyItemModel</name>
+    <message>
+        <source>Copy</source>
+        <extracomment>Title of a default key (the Copy hotkey); a key face is 72 pixels wide.</extracomment>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <extracomment>Title of a default key (the Paste hotkey).</extracomment>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <extracomment>Title of a default folder key holding the volume keys.</extracomment>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <extracomment>Title of a default key: mutes the sound.</extracomment>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>Vol -</source>
+        <extracomment>Title of a default key: turns the volume down.</extracomment>
+        <translation>Vol -</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <extracomment>Title of a default key: turns the volume up.</extracomment>
+        <translation>Vol +</translation>
+    </message>
+</context>
+<context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>

@@ -945,6 +945,39 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
 </context>
 <context>
+    <name>KeyItemModel</name>
+    <message>
+        <source>Copy</source>
+        <extracomment>Title of a default key (the Copy hotkey); a key face is 72 pixels wide.</extracomment>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <extracomment>Title of a default key (the Paste hotkey).</extracomment>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <extracomment>Title of a default folder key holding the volume keys.</extracomment>
+        <translation>Médias</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <extracomment>Title of a default key: mutes the sound.</extracomment>
+        <translation>Muet</translation>
+    </message>
+    <message>
+        <source>Vol -</source>
+        <extracomment>Title of a default key: turns the volume down.</extracomment>
+        <translation>Vol -</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <extracomment>Title of a default key: turns the volume up.</extracomment>
+        <translation>Vol +</translation>
+    </message>
+</context>
+<context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>

@@ -942,6 +942,39 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
 </context>
 <context>
+    <name>KeyItemModel</name>
+    <message>
+        <source>Copy</source>
+        <extracomment>Title of a default key (the Copy hotkey); a key face is 72 pixels wide.</extracomment>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <extracomment>Title of a default key (the Paste hotkey).</extracomment>
+        <translation>貼り付け</translation>
+    </message>
+    <message>
+        <source>Media</source>
+        <extracomment>Title of a default folder key holding the volume keys.</extracomment>
+        <translation>メディア</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <extracomment>Title of a default key: mutes the sound.</extracomment>
+        <translation>ミュート</translation>
+    </message>
+    <message>
+        <source>Vol -</source>
+        <extracomment>Title of a default key: turns the volume down.</extracomment>
+        <translation>音量 -</translation>
+    </message>
+    <message>
+        <source>Vol +</source>
+        <extracomment>Title of a default key: turns the volume up.</extracomment>
+        <translation>音量 +</translation>
+    </message>
+</context>
+<context>
     <name>KeyItemSummary</name>
     <message numerus="yes">
         <source>%n step(s)</source>
