@@ -71,9 +71,10 @@ UserQuestion updateQuestion(const DeviceInfo& info)
 {
     UserQuestion question;
     question.title = QObject::tr("Do you want to update firmware?");
-    question.text = QObject::tr("Firmware version") + QLatin1Char(' ') + info.packagedVersion +
-                    QObject::tr(" is now available - current version ") + info.currentVersion +
-                    QObject::tr(" Would you like to update now?");
+    //: %1 is the firmware this program carries, %2 the firmware on the keypad.
+    question.text =
+        QObject::tr("Firmware version %1 is now available - current version %2 Would you like to update now?")
+            .arg(info.packagedVersion, info.currentVersion);
     question.buttons[UserQuestion::MidSlot] = UserQuestion::No;
     question.buttons[UserQuestion::RightSlot] = UserQuestion::Yes;
     question.icon = UserQuestion::LogoIcon;

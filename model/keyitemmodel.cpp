@@ -405,19 +405,25 @@ void KeyItemModel::changeLayoutButtonView(KeyLayout layout)
 
 // First start and reset: a small page that shows what keys can do and is
 // quickly deleted: Copy and Paste hotkeys, and a "Media" folder with the
-// volume keys. The key indices fit every layout, the 6-key ones included.
+// volume keys, titled in the language in use. The key indices fit every layout, the 6-key ones included.
 QList<KeyItem*> KeyItemModel::defaultKeyItems(int layout)
 {
     QList<KeyItem*> items;
     if (!ButtonLayoutConfig::isValidLayout(layout))
         return items;
-    items << hotkey(0, layout, QStringLiteral("Copy"), Qt::Key_C, 0x43, true);
-    items << hotkey(1, layout, QStringLiteral("Paste"), Qt::Key_V, 0x56, true);
+    //: Title of a default key (the Copy hotkey); a key face is 72 pixels wide.
+    items << hotkey(0, layout, tr("Copy"), Qt::Key_C, 0x43, true);
+    //: Title of a default key (the Paste hotkey).
+    items << hotkey(1, layout, tr("Paste"), Qt::Key_V, 0x56, true);
     auto* media = new KeyItem(KAT_FOLDER, 2, layout);
-    media->setTitle(0, QStringLiteral("Media"));
-    addToFolder(media, hotkey(0, layout, QStringLiteral("Mute"), Qt::Key_VolumeMute, 0xAD, false));
-    addToFolder(media, hotkey(1, layout, QStringLiteral("Vol -"), Qt::Key_VolumeDown, 0xAE, false));
-    addToFolder(media, hotkey(2, layout, QStringLiteral("Vol +"), Qt::Key_VolumeUp, 0xAF, false));
+    //: Title of a default folder key holding the volume keys.
+    media->setTitle(0, tr("Media"));
+    //: Title of a default key: mutes the sound.
+    addToFolder(media, hotkey(0, layout, tr("Mute"), Qt::Key_VolumeMute, 0xAD, false));
+    //: Title of a default key: turns the volume down.
+    addToFolder(media, hotkey(1, layout, tr("Vol -"), Qt::Key_VolumeDown, 0xAE, false));
+    //: Title of a default key: turns the volume up.
+    addToFolder(media, hotkey(2, layout, tr("Vol +"), Qt::Key_VolumeUp, 0xAF, false));
     items << media;
     return items;
 }

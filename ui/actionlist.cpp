@@ -52,6 +52,7 @@ QString ActionList::actionName(int actionType)
     case 2:
         return tr("Macro");
     case 3:
+        //: The action that starts a program or opens a file or folder.
         return tr("Launch");
     case 4:
         return tr("Website");

@@ -12,6 +12,7 @@ KeyGridContextMenu::KeyGridContextMenu(QWidget* parent) : QMenu(parent)
     m_createActions = addMenu(tr("&Create Actions"));
     addEntry(m_createActions, CreateHotkey, tr("&Hotkey"), QStringLiteral("dsp_hotkey"));
     addEntry(m_createActions, CreateMacro, tr("&Macro"), QStringLiteral("dsp_macro"));
+    //: The action that starts a program or opens a file (a verb, as in the action palette).
     addEntry(m_createActions, CreateLaunch, tr("&Launch"), QStringLiteral("dsp_launch"));
     addEntry(m_createActions, CreateWebsite, tr("&Website"), QStringLiteral("dsp_website"));
     addEntry(m_createActions, CreateTextString, tr("&Text String"), QStringLiteral("dsp_textstring"));

@@ -52,6 +52,7 @@ KeyItemGridView::KeyItemGridView(QWidget* parent) : QWidget(parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_StyledBackground); // the focus frame around the grid
     Accessibility::install();
+    //: The keys of the keypad, as the editor shows them.
     setAccessibleName(tr("Keys"));
     // The menu opens on the right button's release, after the key under it
     // was selected; all right-button events must reach this widget.
@@ -644,8 +645,11 @@ void KeyItemGridView::announceKeyboardFocus()
 QString KeyItemGridView::keyAccessibleName(int idx, const KeyItem* item)
 {
     const int number = idx + 1;
-    if (!item || item->actionType == KAT_INVALID)
+    if (!item || item->actionType == KAT_INVALID) {
+        //: %1 is the number of a key on the keypad.
         return tr("Key %1: empty").arg(number);
+    }
+    //: The key that leads out of a folder page, back to the page above.
     const QString type =
         KeyGridController::isLinkType(item->actionType) ? tr("Back") : ActionList::actionName(item->actionType);
     // A title may run over lines on the key; read out, it is one line.

@@ -37,6 +37,7 @@ void TreeView::buildWidgets()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
 
+    //: The top page of the keypad, above every folder.
     m_home = new QPushButton(tr("Home"), this);
     m_home->setObjectName(QStringLiteral("pb_home"));
     m_home->setIcon(QIcon(WidgetLook::imagePath(QStringLiteral("icn_home"))));

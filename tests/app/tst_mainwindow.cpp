@@ -178,24 +178,38 @@ private slots:
         QCOMPARE(spy, (QList<QVariantList>{{false}, {true}}));
     }
 
+    // The built-in translations sit at the paths the loader names, and each
+    // one translates: a missing or misnamed .qm would leave the source text.
     void shouldLoadTranslationsOnlyForKnownLanguages_data()
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("file");
-        QTest::newRow("none") << -1 << QString();
-        QTest::newRow("en") << 0 << ":/translator/en-us.qm";
-        QTest::newRow("fr") << 5 << ":/translator/fr.qm";
-        QTest::newRow("6") << 6 << QString();
-        QTest::newRow("-5") << -5 << QString();
+        QTest::addColumn<QString>("settings");
+        QTest::newRow("none") << -1 << QString() << "Settings";
+        QTest::newRow("en") << 0 << ":/translator/en-us.qm"
+                            << "Settings";
+        QTest::newRow("ja") << 1 << ":/translator/ja.qm" << QStringLiteral("設定");
+        QTest::newRow("zh-TW") << 2 << ":/translator/zh-TW.qm" << QStringLiteral("設定");
+        QTest::newRow("it") << 3 << ":/translator/it.qm"
+                            << "Impostazioni";
+        QTest::newRow("de") << 4 << ":/translator/de.qm"
+                            << "Einstellungen";
+        QTest::newRow("fr") << 5 << ":/translator/fr.qm" << QStringLiteral("Paramètres");
+        QTest::newRow("6") << 6 << QString() << "Settings";
+        QTest::newRow("-5") << -5 << QString() << "Settings";
     }
 
     void shouldLoadTranslationsOnlyForKnownLanguages()
     {
         QFETCH(int, index);
         QFETCH(QString, file);
+        QFETCH(QString, settings);
         QCOMPARE(MainWindow::translationFile(index), file);
         QTranslator translator;
-        MainWindow::installTranslator(&translator, index); // missing files fail quietly
+        MainWindow::installTranslator(&translator, index);
+        const QString translated = QCoreApplication::translate("ActionList", "Settings");
+        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(translated, settings);
     }
 
     void shouldImportALayoutFileByItsContentAfterConfirmation()

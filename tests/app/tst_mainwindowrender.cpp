@@ -5,6 +5,8 @@
 #include "keyitemgridview.h"
 #include "keyitemmodel.h"
 #include "mainwindow.h"
+#include "preferencedialog.h"
+#include "preferencelauncher.h"
 #include "simulatedkeypad.h"
 #include "startup.h"
 #include "testmain.h"
@@ -15,6 +17,7 @@
 #include <QLabel>
 #include <QSet>
 #include <QSettings>
+#include <QTranslator>
 
 namespace {
 
@@ -99,6 +102,43 @@ private slots:
             QCOMPARE(window.keyGrid()->keyButtonCount(), keys);
         }
         HidTransport::setInstance(nullptr);
+    }
+
+    // The editor with a key's form and the preference dialog in each
+    // language, for a person to look over (renders/language_*.png).
+    void shouldShowTheEditorInEveryLanguage_data()
+    {
+        QTest::addColumn<int>("language");
+        const char* const names[] = {"en-us", "ja", "zh-TW", "it", "de", "fr"};
+        for (int language = 0; language < int(std::size(names)); ++language)
+            QTest::newRow(names[language]) << language;
+    }
+
+    void shouldShowTheEditorInEveryLanguage()
+    {
+        QFETCH(int, language);
+        QTranslator translator;
+        MainWindow::installTranslator(&translator, language);
+        SimulatedKeypad keypad;
+        HidTransport::setInstance(&keypad);
+        {
+            QSettings settings;
+            MainWindow window(&settings, false);
+            window.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&window));
+            window.keyGrid()->cancelPreviousAndThenSelectKeyButton(0);
+            const QString prefix =
+                ImageCompare::renderDirectory() + QStringLiteral("/language_%1_").arg(QTest::currentDataTag());
+            const QImage editor = window.grab().toImage();
+            QVERIFY(editor.save(prefix + QStringLiteral("editor.png")));
+            QVERIFY2(distinctColours(editor) > 200, qPrintable(QString::number(distinctColours(editor))));
+            PreferenceDialog* dialog = window.preferences()->open();
+            QVERIFY(dialog && QTest::qWaitForWindowExposed(dialog));
+            QVERIFY(dialog->grab().save(prefix + QStringLiteral("preferences.png")));
+            dialog->close();
+        }
+        HidTransport::setInstance(nullptr);
+        QCoreApplication::removeTranslator(&translator);
     }
 };
 

@@ -287,6 +287,31 @@ private slots:
         QCOMPARE(FaceTitle(text, KeyRenderInfo::defaultFont(), 66, maxLines).lines(), lines);
     }
 
+    // Japanese and Chinese titles fall back from the bundled Latin face to a
+    // CJK font of the system. Missing glyphs would all draw as the same box,
+    // so the two orders of the same characters would render alike.
+    void shouldDrawJapaneseAndChineseTitles_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("reversed");
+        QTest::newRow("ja") << QStringLiteral("設定を開く") << QStringLiteral("く開を定設");
+        QTest::newRow("zh-TW") << QStringLiteral("資料夾") << QStringLiteral("夾料資");
+    }
+
+    void shouldDrawJapaneseAndChineseTitles()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, reversed);
+        KeyRenderInfo face;
+        face.textColor = Green;
+        face.text = text;
+        const QImage forward = KeyFaceRenderer::render(face);
+        face.text = reversed;
+        const QImage backward = KeyFaceRenderer::render(face);
+        QVERIFY(boundsOf(forward, near(Green, 60)).width() >= 20);
+        QVERIFY(ImageCompare::meanDifference(forward, backward) > 0);
+    }
+
     void shouldDrawArialWithTheBundledFont()
     {
         QVERIFY(BundledFonts::ensureLoaded());

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 
 #include <functional>
@@ -79,6 +80,13 @@ private slots:
         QTest::keyClick(dialog.pageList(), Qt::Key_Down);
         QCOMPARE(dialog.currentPage(), second);
         QCOMPARE(dialog.findPage<FakePage>(), first);
+
+        // A long title, as some languages give, widens the list instead of
+        // being cut off.
+        dialog.addPage(new FakePage(QStringLiteral("Importation et exportation des dispositions")));
+        QTRY_VERIFY_WITH_TIMEOUT(dialog.pageList()->viewport()->width() >= dialog.pageList()->sizeHintForColumn(0),
+                                 WaitMs);
+        QVERIFY(!dialog.pageList()->horizontalScrollBar()->isVisible());
     }
 
     // Every way out asks the pages; a page that refuses keeps the dialog

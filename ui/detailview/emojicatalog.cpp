@@ -14,11 +14,6 @@ constexpr qint64 MaxFileSize = 16 * 1024 * 1024;
 constexpr int MaxCodePoints = 16;
 constexpr uint LastCodePoint = 0x10FFFF;
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("EmojiCatalog", text);
-}
-
 // "1F469 200D 1F4BC" into the characters; empty when any part is not a
 // Unicode scalar value.
 QString charactersOf(const QString& codePoints)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QMetaType>
 #include <QString>
 #include <QVector>
@@ -24,6 +25,8 @@ using EmojiList = QVector<EmojiEntry>;
 // Plain functions, safe on any thread.
 class EmojiCatalog
 {
+    Q_DECLARE_TR_FUNCTIONS(EmojiCatalog)
+
 public:
     struct Result
     {

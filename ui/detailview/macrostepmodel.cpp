@@ -100,6 +100,7 @@ QVariant MacroStepModel::data(const QModelIndex& index, int role) const
         return QVariant();
     const MarcoKeyItem& step = m_steps.at(index.row());
     const QString key = KeyMapping::keyName(step.nativeKeyCode, step.qtKeyCode);
+    //: A macro step presses (Down) or releases (Up) a key; read aloud after the key name.
     const QString direction = step.isPress ? tr("Down") : tr("Up");
     switch (role) {
     case Qt::DisplayRole:
@@ -119,6 +120,7 @@ QVariant MacroStepModel::headerData(int section, Qt::Orientation orientation, in
         return QVariant();
     if (orientation == Qt::Vertical)
         return section + 1;
+    //: Column header: the keyboard key a macro step presses or releases.
     return section == KeyColumn ? tr("Key") : tr("Press or release");
 }
 

@@ -69,6 +69,7 @@ KeypadPage::~KeypadPage()
 
 QString KeypadPage::title() const
 {
+    //: The USB keypad with LCD keys this program drives.
     return tr("Keypad");
 }
 

@@ -14,7 +14,9 @@
 
 namespace {
 constexpr int PageListWidth = 190;
-}
+// The page list's padding (6 px a side) and right border in the style sheet.
+constexpr int PageListChrome = 2 * 6 + 1;
+} // namespace
 
 PreferenceDialog::PreferenceDialog(QWidget* parent) : QDialog(parent)
 {
@@ -87,6 +89,11 @@ void PreferenceDialog::addPage(PreferencePage* page)
     m_stack->addWidget(page);
     auto* item = new QListWidgetItem(page->title(), m_list);
     item->setData(Qt::AccessibleTextRole, page->title());
+    // Some languages name a page at more length than fits the usual width:
+    // the list grows until the longest title shows whole.
+    m_list->ensurePolished();
+    const int needed = m_list->sizeHintForColumn(0) + 2 * m_list->frameWidth() + PageListChrome;
+    m_list->setFixedWidth(qMax(PageListWidth, needed));
     if (m_list->currentRow() < 0)
         m_list->setCurrentRow(0);
 }
