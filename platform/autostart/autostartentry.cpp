@@ -45,7 +45,7 @@ QString escapedString(const QString& value)
 QString absoluteDirectory(const QString& variable, const QString& fallback)
 {
     const QString value = qEnvironmentVariable(variable.toLatin1().constData());
-    // The specification ignores relative paths in these variables.
+    // XDG base directories must be absolute paths; a relative one is ignored, as the desktop ignores it.
     return !value.isEmpty() && QDir::isAbsolutePath(value) ? value : fallback;
 }
 
