@@ -118,9 +118,25 @@ void MainWindow::createCore()
 {
     m_core = std::make_unique<AgentCore>();
     Settings* store = m_core->settingsStore();
+    // Told from the event loop, once the window stands and a termination
+    // signal can still end the program while the message is open.
     if (!store->damagedCopyPath().isEmpty())
-        tellUser(tr("Your settings were damaged and have been reset."),
-                 tr("The damaged file was kept as %1.").arg(store->damagedCopyPath()));
+        QTimer::singleShot(0, this, [this, kept = store->damagedCopyPath()] {
+            tellUser(tr("Your settings were damaged and have been reset."),
+                     tr("The damaged file was kept as %1.").arg(kept));
+        });
+    // Queued: a save can fail in the middle of other work.
+    connect(
+        store, &Settings::saveFailed, this,
+        [this](const QString& fileName, const QString& reason) {
+            if (m_quitting)
+                return;
+            tellUser(tr("Your settings cannot be saved."),
+                     tr("%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the "
+                        "file can be written again.")
+                         .arg(fileName, reason, QCoreApplication::applicationName()));
+        },
+        Qt::QueuedConnection);
     connect(store, &Settings::settingImported, this, &MainWindow::onLayoutImported);
     connect(store, &Settings::myFavoriteImported, this, &MainWindow::onFavoritesImported);
 }
@@ -381,6 +397,7 @@ ButtonLayoutConfig* MainWindow::layoutConfig() const
 
 void MainWindow::tellUser(const QString& subject, const QString& text)
 {
+    LOG_MSG(QStringLiteral("telling the user: %1 %2").arg(subject, text));
     UserQuestion message;
     message.subject = subject;
     message.text = text;

@@ -6,6 +6,8 @@
 #include <QDebug>
 #include <QThread>
 
+#include <algorithm>
+
 namespace {
 
 // Index of the '(' that opens the parameter list of a pretty function name,
@@ -44,7 +46,53 @@ int nameStart(const QString& text)
     return 0;
 }
 
+bool needsEscape(QChar c)
+{
+    const char16_t u = c.unicode();
+    return u < 0x20 || (u >= 0x7f && u <= 0x9f) || u == 0x2028 || u == 0x2029 || u == '\\';
+}
+
+void appendEscaped(QString* out, QChar c)
+{
+    switch (c.unicode()) {
+    case '\\':
+        out->append(QLatin1String("\\\\"));
+        return;
+    case '\n':
+        out->append(QLatin1String("\\n"));
+        return;
+    case '\r':
+        out->append(QLatin1String("\\r"));
+        return;
+    case '\t':
+        out->append(QLatin1String("\\t"));
+        return;
+    default:
+        break;
+    }
+    if (c.unicode() < 0x100)
+        out->append(QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QLatin1Char('0')));
+    else
+        out->append(QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')));
+}
+
 } // namespace
+
+QString escapeLogText(const QString& text)
+{
+    // Nearly every message is plain: no copy for those.
+    if (std::none_of(text.begin(), text.end(), needsEscape))
+        return text;
+    QString out;
+    out.reserve(text.size() + 8);
+    for (const QChar c : text) {
+        if (needsEscape(c))
+            appendEscaped(&out, c);
+        else
+            out.append(c);
+    }
+    return out;
+}
 
 QString qualifiedFunctionName(const char* prettyFunction)
 {
@@ -65,7 +113,7 @@ QString formatLogRecord(const QString& function, int line, const QString& messag
     // One multi-argument arg() so that '%' signs inside the message stay as they are.
     return QStringLiteral("%1,%2 : 0x%3,%4\n\t%5\n")
         .arg(function, QString::number(line), QString::number(reinterpret_cast<quintptr>(thread), 16),
-             thread ? thread->objectName() : QString(), message);
+             escapeLogText(thread ? thread->objectName() : QString()), escapeLogText(message));
 }
 
 void writeLogRecord(const QString& function, int line, const QString& message)
@@ -74,7 +122,7 @@ void writeLogRecord(const QString& function, int line, const QString& message)
         log->logMsg(formatLogRecord(function, line, message));
         return;
     }
-    qDebug().noquote() << QStringLiteral("Log file not created: ") + message;
+    qDebug().noquote() << QStringLiteral("Log file not created: ") + escapeLogText(message);
 }
 
 bool logMsgWhenRetFail(bool ok, const QString& message)

@@ -326,7 +326,10 @@ bool KeyItemModel::resetKeyItemToDefault(int keyIdx)
 
 void KeyItemModel::flushPendingSave()
 {
-    if (!m_saveTimer->isActive())
+    // After a save that failed the edits live in memory only: this is the
+    // last chance to write them.
+    const Settings* store = settings();
+    if (!m_saveTimer->isActive() && !(store && store->lastSaveFailed()))
         return;
     m_saveTimer->stop();
     saveCurrentKeyItemsToSettings();

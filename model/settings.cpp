@@ -243,6 +243,9 @@ Settings::Settings(QObject* parent)
     : QObject(parent), m_store(QSettings::NativeFormat, QSettings::UserScope, Organisation, Application)
 {
     m_damagedCopyPath = std::exchange(setAsidePath, QString());
+    // It was moved aside before the log file existed: the log hears of it here.
+    if (!m_damagedCopyPath.isEmpty())
+        LOG_MSG(QStringLiteral("ERROR: %1 could not be read, kept as %2!!").arg(m_store.fileName(), m_damagedCopyPath));
     QVariantMap stored = m_store.value(SettingsKeys::Inst).toMap();
     rememberStoreFromQSettings();
     const QString storedChecksum = stored.take(SettingsKeys::ChecksumTag).toString();
@@ -376,57 +379,88 @@ void Settings::keepDamagedCopy()
 bool Settings::save()
 {
     LOG_MSG(QStringLiteral("store setting into disk."));
-    QMutexLocker storeLocker(&m_storeMutex);
-    QVariantMap stored;
-    {
-        QMutexLocker treeLocker(&m_treeMutex);
-        m_tree.insert(SettingsKeys::SettingsVersion, QString(Version));
-        stored = m_tree;
-    }
     bool written = false;
+    bool firstFailure = false;
+    QString fileName;
+    QString error;
     {
-        // QSettings does not store every value as it was given (it streams
-        // them in an old QDataStream version, which drops font details, for
-        // one), and the next start checks what it reads. So the checksum
-        // that goes to disk is computed over what will be read back, not
-        // over the tree in memory. The file needs it only near its end.
-        BackgroundMd5 checksum(streamPieces(stored, VariantStreamWriter::Form::ReadBackFromSettingsFile));
-        written = storeFileIsAsLastSeen() ? writeStoreDirectly(stored, [&checksum] { return checksum.result(); })
-                                          : writeStoreThroughQSettings(stored, checksum.result());
+        QMutexLocker storeLocker(&m_storeMutex);
+        QVariantMap stored;
+        {
+            QMutexLocker treeLocker(&m_treeMutex);
+            m_tree.insert(SettingsKeys::SettingsVersion, QString(Version));
+            stored = m_tree;
+        }
+        {
+            // QSettings does not store every value as it was given (it streams
+            // them in an old QDataStream version, which drops font details, for
+            // one), and the next start checks what it reads. So the checksum
+            // that goes to disk is computed over what will be read back, not
+            // over the tree in memory. The file needs it only near its end.
+            BackgroundMd5 checksum(streamPieces(stored, VariantStreamWriter::Form::ReadBackFromSettingsFile));
+            written = storeFileIsAsLastSeen() && !m_storeHoldsUnwritten
+                          ? writeStoreDirectly(stored, [&checksum] { return checksum.result(); }, &error)
+                          : writeStoreThroughQSettings(stored, checksum.result(), &error);
+        }
+        // Images that left the tree leave the caches.
+        m_cache.dropUnused();
+        m_fileWriter.dropUnused();
+        fileName = m_store.fileName();
+        firstFailure = noteSaveResult(written, error);
     }
-    // Images that left the tree leave the caches.
-    m_cache.dropUnused();
-    m_fileWriter.dropUnused();
+    // Outside the lock: a listener may well ask the store about its file.
+    if (firstFailure)
+        emit saveFailed(fileName, error);
     return written;
 }
 
-bool Settings::writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum)
+// True for the first failure after a good save. The edits stay in the tree,
+// so the next save writes them all; the user hears of a failing file once.
+bool Settings::noteSaveResult(bool written, const QString& error)
+{
+    const bool wasFailing = std::exchange(m_saveFailing, !written);
+    if (written) {
+        if (wasFailing)
+            LOG_MSG(QStringLiteral("%1 is written again.").arg(m_store.fileName()));
+        return false;
+    }
+    LOG_MSG(QStringLiteral("ERROR: Cannot write %1: %2!! The settings are kept in memory until a save succeeds.")
+                .arg(m_store.fileName(), error));
+    return !wasFailing;
+}
+
+bool Settings::lastSaveFailed() const
+{
+    QMutexLocker locker(&m_storeMutex);
+    return m_saveFailing;
+}
+
+bool Settings::writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum, QString* error)
 {
     stored.insert(SettingsKeys::ChecksumTag, QString()); // its place; the value comes when it is reached
     const SettingsFileWriter::LateEntry late{SettingsKeys::ChecksumTag, [&checksum] { return QVariant(checksum()); }};
-    QString error;
     if (!m_fileWriter.writeMapFile(m_store.fileName(), SettingsKeys::Inst, stored, late, m_otherStoredKeys, &m_cache,
-                                   &error)) {
-        LOG_MSG(QStringLiteral("ERROR: Cannot write %1: %2!!").arg(m_store.fileName(), error));
+                                   error))
         return false;
-    }
     rememberStoreFileState();
     return true;
 }
 
 // Someone else changed the file since the store saw it last: QSettings merges
 // those changes. It encodes every image again, so this is the slow way.
-bool Settings::writeStoreThroughQSettings(QVariantMap stored, const QString& checksum)
+bool Settings::writeStoreThroughQSettings(QVariantMap stored, const QString& checksum, QString* error)
 {
     LOG_MSG(QStringLiteral("%1 was changed by another writer, merging through QSettings.").arg(m_store.fileName()));
     stored.insert(SettingsKeys::ChecksumTag, checksum);
     m_store.setValue(SettingsKeys::Inst, stored);
     m_store.sync();
     if (m_store.status() != QSettings::NoError) {
-        LOG_MSG(QStringLiteral("ERROR: Cannot write %1!!").arg(m_store.fileName()));
+        *error = SettingsFileWriter::unwritableReason(m_store.fileName());
         m_lastSeenFile = StoreFileState();
+        m_storeHoldsUnwritten = true;
         return false;
     }
+    m_storeHoldsUnwritten = false;
     rememberStoreFromQSettings();
     return true;
 }

@@ -147,6 +147,10 @@ public:
     // missing, negative or not an integer, at most limit.
     static int boundedCount(const QVariantMap& map, const QString& key, int limit);
 
+    // True while the last save() could not write the file: the tree in
+    // memory holds edits the file does not, and the next save() tries again.
+    bool lastSaveFailed() const;
+
 public slots:
     // Stores the tree with its checksum; false when the file could not be written.
     bool save();
@@ -154,6 +158,10 @@ public slots:
 signals:
     void settingImported(const QVariantMap& layout);
     void myFavoriteImported(const QVariantMap& favorites);
+    // The first save that fails after a good one (or after the start): the
+    // file and why the system refused it. Failing saves after it stay quiet
+    // until one succeeds again.
+    void saveFailed(const QString& fileName, const QString& reason);
 
 private:
     struct StoreFileState
@@ -173,8 +181,9 @@ private:
     void rememberStoreFromQSettings();
     void rememberStoreFileState();
     void primeImageCache(const QVariantMap& stored, const QString& storedChecksum);
-    bool writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum);
-    bool writeStoreThroughQSettings(QVariantMap stored, const QString& checksum);
+    bool writeStoreDirectly(QVariantMap stored, const std::function<QString()>& checksum, QString* error);
+    bool writeStoreThroughQSettings(QVariantMap stored, const QString& checksum, QString* error);
+    bool noteSaveResult(bool written, const QString& error);
 
     mutable QMutex m_treeMutex;
     QVariantMap m_tree;
@@ -190,6 +199,11 @@ private:
     // knows everything in it.
     QVariantMap m_otherStoredKeys;
     StoreFileState m_lastSeenFile;
+    bool m_saveFailing = false;
+    // QSettings keeps a value it failed to write and writes it at its next
+    // sync, over whatever the store wrote meanwhile: until QSettings has
+    // written the tree once more, the store saves through it.
+    bool m_storeHoldsUnwritten = false;
 
     mutable EncodingCache m_cache;
     SettingsFileWriter m_fileWriter;

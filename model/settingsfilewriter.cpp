@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include <cerrno>
 #include <cstring>
 #include <utility>
 
@@ -471,7 +472,10 @@ bool replaceFile(const QString& path, int lockTimeoutMs, QString* error,
     }
     QLockFile lock(path + QStringLiteral(".lock"));
     if (!lock.tryLock(lockTimeoutMs)) {
-        *error = QStringLiteral("cannot lock %1 (error %2)").arg(path).arg(int(lock.error()));
+        // A folder the user may not write to is the usual cause: say so.
+        *error = lock.error() == QLockFile::PermissionError
+                     ? QStringLiteral("%1: %2").arg(info.absolutePath(), qt_error_string(EACCES))
+                     : QStringLiteral("cannot lock %1 (error %2)").arg(path).arg(int(lock.error()));
         return false;
     }
     QSaveFile file(path);
@@ -488,6 +492,19 @@ bool replaceFile(const QString& path, int lockTimeoutMs, QString* error,
 }
 
 } // namespace
+
+QString SettingsFileWriter::unwritableReason(const QString& path)
+{
+    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
+        return QStringLiteral("cannot create %1").arg(QFileInfo(path).absolutePath());
+    // Opening finds a folder in the way or a folder without write permission;
+    // nothing is replaced, the probe is thrown away.
+    QSaveFile probe(path);
+    if (!probe.open(QIODevice::WriteOnly))
+        return probe.errorString();
+    probe.cancelWriting();
+    return QStringLiteral("the file could not be written completely (is the disk full?)");
+}
 
 bool SettingsFileWriter::writeFile(const QString& path, const Content& content, QString* error, int lockTimeoutMs)
 {

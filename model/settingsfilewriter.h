@@ -50,6 +50,10 @@ public:
     static bool writeFile(const QString& path, const Content& content, QString* error,
                           int lockTimeoutMs = LockTimeoutMs);
 
+    // Why the file at path cannot be replaced, in the system's words, for a
+    // writer (QSettings) that only says that it failed.
+    static QString unwritableReason(const QString& path);
+
     // An entry of a map whose value is worked out while the file is written.
     struct LateEntry
     {

@@ -30,12 +30,13 @@ ensure_packages() {
     "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
+# Arguments are extra cmake options for the first configure of $BUILD_DIR.
 build() {
     if [ ! -f "$BUILD_DIR/build.ninja" ]; then
         local launcher=()
         # ccache, when installed, makes rebuilds in fresh trees quick; it is optional.
         command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-        cmake -S "$ROOT" -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}"
+        cmake -S "$ROOT" -B "$BUILD_DIR" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}" "$@"
     fi
     cmake --build "$BUILD_DIR" --parallel "$(nproc)"
 }

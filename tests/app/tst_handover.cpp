@@ -2,6 +2,7 @@
 // program. Each test runs a private copy of the program under a name of its
 // own, so nothing else on the machine counts as an instance.
 #include "ipctoken.h"
+#include "testfiles.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -45,6 +46,7 @@ private slots:
     void init()
     {
         QDir(testEnvironment()->logDirectory()).removeRecursively();
+        QDir(settingsDirectory()).removeRecursively();
         QFile::remove(ipcTokenPath(TokenBringToFront));
         QFile::remove(ipcTokenPath(TokenOpenFile));
     }
@@ -140,7 +142,29 @@ private slots:
         QCOMPARE(m_second.state(), QProcess::Running);
     }
 
+    // The start-up message about damaged settings waits for the user; a
+    // termination signal meanwhile ends the program the way Quit does.
+    void shouldQuitCleanlyOnATerminationSignalWhileTheDamagedSettingsMessageIsOpen()
+    {
+        QVERIFY(QDir().mkpath(settingsDirectory()));
+        QVERIFY(TestFiles::write(settingsDirectory() + QStringLiteral("/Keystage.conf"), "[General]\ninst=damaged\n"));
+        m_first.start(m_program, QStringList());
+        QVERIFY(m_first.waitForStarted(Patience));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            newestLogText().contains(QStringLiteral("\ttelling the user: Your settings were damaged")), Patience);
+
+        ::kill(pid_t(m_first.processId()), SIGTERM);
+        QVERIFY(m_first.waitForFinished(Patience));
+        QCOMPARE(m_first.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(m_first.exitCode(), 0);
+        const QString log = newestLogText();
+        QVERIFY2(log.contains(QStringLiteral("\tquit requested\n")), qPrintable(log));
+        QVERIFY2(log.contains(QStringLiteral("\tmain window closed\n")), qPrintable(log));
+    }
+
 private:
+    static QString settingsDirectory() { return testEnvironment()->configHome() + QStringLiteral("/Vantorix"); }
+
     void startFirst(const QStringList& arguments = {})
     {
         m_first.setProcessChannelMode(QProcess::SeparateChannels);

@@ -187,6 +187,46 @@ private slots:
             QVERIFY(entry.message.startsWith(QStringLiteral("thread ") + entry.threadName.mid(6) + QLatin1Char(' ')));
     }
 
+    // A message is one line of the record whatever it carries, and can be
+    // read back to the text it was.
+    void shouldEscapeControlCharactersInRecords_data()
+    {
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("forged record") << QStringLiteral("open a.ks\n\n1: Evil::run,1 : 0x1,UI Thread\n\tdone")
+                                       << QStringLiteral("open a.ks\\n\\n1: Evil::run,1 : 0x1,UI Thread\\n\\tdone");
+        QTest::newRow("carriage return") << QStringLiteral("a\rb") << QStringLiteral("a\\rb");
+        QTest::newRow("escape and delete") << QStringLiteral("\x1b[2J\x7f") << QStringLiteral("\\x1b[2J\\x7f");
+        QTest::newRow("C1 next line") << QStringLiteral("a") + QChar(0x85) + QStringLiteral("b")
+                                      << QStringLiteral("a\\x85b");
+        QTest::newRow("line separator") << QStringLiteral("a") + QChar(0x2028) + QStringLiteral("b")
+                                        << QStringLiteral("a\\u2028b");
+        QTest::newRow("backslash") << QStringLiteral("C:\\n") << QStringLiteral("C:\\\\n");
+        QTest::newRow("plain") << QStringLiteral("Mein Layöut 日本 100% {}") << QStringLiteral("Mein Layöut 日本 100% {}");
+    }
+
+    void shouldEscapeControlCharactersInRecords()
+    {
+        QFETCH(QString, message);
+        QFETCH(QString, written);
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        LOG_MSG(message);
+        bool wellFormed = false;
+        const QList<ParsedEntry> entries =
+            parseEntries(QString::fromUtf8(TestFiles::read(log.filePath())), &wellFormed);
+        QVERIFY(wellFormed);
+        QCOMPARE(entries.size(), 1);
+        QCOMPARE(entries.first().message, written);
+
+        // The debug output before any main window gets the same text.
+        ObjectRegistry::clear();
+        LogCapture capture;
+        LOG_MSG(message);
+        QCOMPARE(capture.messages().value(0), QStringLiteral("Log file not created: ") + written);
+    }
+
     void shouldNameFunctionsAsClassAndMethod_data()
     {
         QTest::addColumn<QString>("pretty");

@@ -1,4 +1,5 @@
 #include "actionlist.h"
+#include "agentcore.h"
 #include "dialog.h"
 #include "favorite.h"
 #include "favoritekeyitemmodel.h"
@@ -12,6 +13,7 @@
 #include "mainwindow.h"
 #include "objectregistry.h"
 #include "settings.h"
+#include "settingskeys.h"
 #include "testmain.h"
 #include "virtualkey.h"
 
@@ -257,6 +259,43 @@ private slots:
         const QString text = QString::fromUtf8(log.readAll());
         QVERIFY(text.contains(QStringLiteral("answered without showing: \"OK\"")));
         QVERIFY(text.contains(QStringLiteral("Import of ") + path + QStringLiteral(" failed")));
+    }
+
+    // A settings file that cannot be written is told once, with its path and
+    // the reason; the edits wait in memory and quitting tries once more.
+    void shouldTellOnceWhenTheSettingsCannotBeWrittenAndRetryOnQuit()
+    {
+        QSettings settings;
+        MainWindow window(&settings, false);
+        Settings* store = window.core()->settingsStore();
+        const QString path = store->fileName();
+        QFile::remove(path);
+        QVERIFY(QDir().mkpath(path)); // a folder where the file belongs
+        // Room for a second message, so that a repeated one fails the test instead of waiting.
+        Dialog::setNextAnswer(UserQuestion::Ok);
+        Dialog::setNextAnswer(UserQuestion::Ok);
+        store->setValue(QStringLiteral("probe"), 7);
+        QVERIFY(!store->save());
+        QVERIFY(!store->save());
+        const QString told = QStringLiteral("\ttelling the user: Your settings cannot be saved. ") + path +
+                             QStringLiteral(" cannot be written: ");
+        QTRY_VERIFY_WITH_TIMEOUT(logText(window).contains(told), 30000);
+        QCoreApplication::processEvents();
+        QCOMPARE(logText(window).count(told), 1);
+
+        QVERIFY(QDir(path).removeRecursively());
+        window.quitApplication();
+        QVERIFY(!store->lastSaveFailed());
+        QVERIFY(QFileInfo(path).isFile());
+        QCOMPARE(QSettings(path, QSettings::IniFormat).value(SettingsKeys::Inst).toMap().value(QStringLiteral("probe")),
+                 QVariant(7));
+    }
+
+private:
+    static QString logText(MainWindow& window)
+    {
+        QFile log(window.log()->filePath());
+        return log.open(QIODevice::ReadOnly) ? QString::fromUtf8(log.readAll()) : QString();
     }
 };
 

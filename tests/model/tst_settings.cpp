@@ -1,3 +1,4 @@
+#include "log.h"
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "samplevalues.h"
@@ -16,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -35,6 +37,56 @@ QString confPath()
 QString orgWidePath()
 {
     return testEnvironment()->configHome() + QStringLiteral("/Vantorix.conf");
+}
+
+// A list whose count claims two billion entries: Qt's own parse of the file
+// throws std::bad_alloc (the sanitizer build lets that allocation fail, see
+// tests/model/CMakeLists.txt).
+QByteArray unparseableStore()
+{
+    return "[General]\ninst=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61"
+           "\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0\\0\\0\\0\\x2\\0\\0\\0\\x1)\nlang_idx=2\n";
+}
+
+enum Obstacle
+{
+    FolderForFile,
+    FileForFolder,
+    ReadOnlyFolder,
+};
+
+void placeObstacle(int obstacle)
+{
+    const QString folder = QFileInfo(confPath()).absolutePath();
+    switch (obstacle) {
+    case FolderForFile:
+        QVERIFY(QFile::remove(confPath()));
+        QVERIFY(QDir().mkpath(confPath()));
+        break;
+    case FileForFolder:
+        QVERIFY(QDir(folder).removeRecursively());
+        QVERIFY(TestFiles::write(folder, "x"));
+        break;
+    case ReadOnlyFolder:
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+        break;
+    }
+}
+
+void removeObstacle(int obstacle)
+{
+    const QString folder = QFileInfo(confPath()).absolutePath();
+    switch (obstacle) {
+    case FolderForFile:
+        QVERIFY(QDir(confPath()).removeRecursively());
+        break;
+    case FileForFolder:
+        QVERIFY(QFile::remove(folder));
+        break;
+    case ReadOnlyFolder:
+        QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        break;
+    }
 }
 
 QFileInfoList corruptCopies()
@@ -166,6 +218,9 @@ class SettingsTest : public QObject
 private slots:
     void init()
     {
+        QFile::setPermissions(QFileInfo(confPath()).absolutePath(), QFile::ReadOwner | QFile::WriteOwner |
+                                                                        QFile::ExeOwner);
+        QFile::remove(QFileInfo(confPath()).absolutePath());
         ObjectRegistry::clear();
         QFile::remove(confPath());
         QFile::remove(orgWidePath());
@@ -321,11 +376,7 @@ private slots:
         } else if (damage == NoChecksum) {
             writeThroughQSettings(SettingsKeys::Inst, QVariantMap{{SettingsKeys::LastKbLayout, 1}});
         } else {
-            // A list whose count claims two billion entries: Qt's own parse
-            // of the file throws std::bad_alloc.
-            QVERIFY(TestFiles::write(confPath(),
-                                     "[General]\ninst=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0\\x61"
-                                     "\\0\\0\\0\\t\\x7f\\xff\\xff\\xf0\\0\\0\\0\\x2\\0\\0\\0\\x1)\nlang_idx=2\n"));
+            QVERIFY(TestFiles::write(confPath(), unparseableStore()));
         }
         const QByteArray damaged = TestFiles::read(confPath());
         makeCachedSettingsStale();
@@ -345,7 +396,8 @@ private slots:
             QRegularExpression(QStringLiteral("^Keystage\\.conf\\.corrupt-\\d{8}_\\d{6}(-\\d+)?$"))));
         QCOMPARE(QFileInfo(copy).absolutePath(), QFileInfo(confPath()).absolutePath());
         QCOMPARE(TestFiles::read(copy), damaged);
-        QCOMPARE(capture.matching(copy).size(), 1);
+        // A file moved aside before the log existed is named once more by the store.
+        QCOMPARE(capture.matching(copy).size(), damage == Unparseable ? 2 : 1);
 
         // The next start keeps no second copy of the same file.
         if (damage != Unparseable)
@@ -354,6 +406,25 @@ private slots:
         Settings again;
         QCOMPARE(again.damagedCopyPath(), damage == Unparseable ? QString() : copy);
         QCOMPARE(corruptCopies().size(), 1);
+    }
+
+    // The program sets an unreadable file aside before its log file exists;
+    // the log file must still say where the user's settings went.
+    void shouldNameTheSetAsideCopyInTheLogFile()
+    {
+        QVERIFY(TestFiles::write(confPath(), unparseableStore()));
+        makeCachedSettingsStale();
+        const QString copy = Settings::setAsideUnreadableStore();
+        QVERIFY(!copy.isEmpty());
+        QObject window;
+        Log log;
+        ObjectRegistry::registerMainWindow(&window, &log);
+        Settings settings;
+        ObjectRegistry::unregisterMainWindow();
+        const QString text = QString::fromUtf8(TestFiles::read(log.filePath()));
+        QVERIFY2(text.contains(QStringLiteral("ERROR: %1 could not be read, kept as %2!!").arg(confPath(), copy)),
+                 qPrintable(text));
+        QVERIFY(QFile::remove(copy));
     }
 
     void shouldResetToTheProvidedDefaults()
@@ -432,6 +503,52 @@ private slots:
         QCOMPARE(layouts.size() + favouriteLists.size(), 1);
         QCOMPARE(emitted.size(), 1);
         QCOMPARE(Settings::checksum(emitted.first().first().toMap()), Settings::checksum(pages));
+    }
+
+    void shouldTellOnceWhyTheFileCannotBeWrittenAndRetry_data()
+    {
+        QTest::addColumn<int>("obstacle");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("a folder where the file belongs") << int(FolderForFile) << "directory";
+        QTest::newRow("a file where the folder belongs") << int(FileForFolder) << "cannot create";
+        QTest::newRow("read-only folder") << int(ReadOnlyFolder) << "Permission denied";
+    }
+
+    void shouldTellOnceWhyTheFileCannotBeWrittenAndRetry()
+    {
+        QFETCH(int, obstacle);
+        QFETCH(QString, reason);
+        if (obstacle == ReadOnlyFolder && ::geteuid() == 0)
+            QSKIP("root writes into read-only folders");
+        Settings settings;
+        QSignalSpy failures(&settings, &Settings::saveFailed);
+        settings.setValue(QStringLiteral("probe"), 1);
+        QVERIFY(settings.save());
+
+        for (int attempt = 1; attempt <= 2; ++attempt) {
+            placeObstacle(obstacle);
+            // Edits go on in memory; only the first failure is told.
+            settings.setValue(QStringLiteral("probe"), 10 * attempt);
+            QVERIFY(!settings.save());
+            settings.setValue(QStringLiteral("probe"), 10 * attempt + 1);
+            QVERIFY(!settings.save());
+            QVERIFY(settings.lastSaveFailed());
+            QCOMPARE(failures.size(), attempt);
+            QCOMPARE(failures.last().at(0).toString(), confPath());
+            QVERIFY2(failures.last().at(1).toString().contains(reason), qPrintable(failures.last().at(1).toString()));
+
+            // The next save once the way is clear writes every edit, and
+            // nothing of the failed saves comes back later; a new failure
+            // after it is told again.
+            removeObstacle(obstacle);
+            settings.setValue(QStringLiteral("probe"), 10 * attempt + 2);
+            QVERIFY(settings.save());
+            QVERIFY(!settings.lastSaveFailed());
+            QCOMPARE(restart()->value(QStringLiteral("probe")).toInt(), 10 * attempt + 2);
+        }
+        QSettings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Vantorix"), QStringLiteral("Keystage"))
+            .sync();
+        QCOMPARE(restart()->value(QStringLiteral("probe")).toInt(), 22);
     }
 
     void shouldReportWritesThatFail()
