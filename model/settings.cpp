@@ -399,7 +399,8 @@ bool Settings::save()
             // over the tree in memory. The file needs it only near its end.
             BackgroundMd5 checksum(streamPieces(stored, VariantStreamWriter::Form::ReadBackFromSettingsFile));
             written = storeFileIsAsLastSeen() && !m_storeHoldsUnwritten
-                          ? writeStoreDirectly(stored, [&checksum] { return checksum.result(); }, &error)
+                          ? writeStoreDirectly(
+                                stored, [&checksum] { return checksum.result(); }, &error)
                           : writeStoreThroughQSettings(stored, checksum.result(), &error);
         }
         // Images that left the tree leave the caches.

@@ -202,7 +202,8 @@ private slots:
         QTest::newRow("line separator") << QStringLiteral("a") + QChar(0x2028) + QStringLiteral("b")
                                         << QStringLiteral("a\\u2028b");
         QTest::newRow("backslash") << QStringLiteral("C:\\n") << QStringLiteral("C:\\\\n");
-        QTest::newRow("plain") << QStringLiteral("Mein Layöut 日本 100% {}") << QStringLiteral("Mein Layöut 日本 100% {}");
+        QTest::newRow("plain") << QStringLiteral("Mein Layöut 日本 100% {}")
+                               << QStringLiteral("Mein Layöut 日本 100% {}");
     }
 
     void shouldEscapeControlCharactersInRecords()

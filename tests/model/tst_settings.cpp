@@ -218,8 +218,8 @@ class SettingsTest : public QObject
 private slots:
     void init()
     {
-        QFile::setPermissions(QFileInfo(confPath()).absolutePath(), QFile::ReadOwner | QFile::WriteOwner |
-                                                                        QFile::ExeOwner);
+        QFile::setPermissions(QFileInfo(confPath()).absolutePath(),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QFile::remove(QFileInfo(confPath()).absolutePath());
         ObjectRegistry::clear();
         QFile::remove(confPath());
