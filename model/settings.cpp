@@ -453,9 +453,12 @@ bool Settings::writeStoreThroughQSettings(QVariantMap stored, const QString& che
 {
     LOG_MSG(QStringLiteral("%1 was changed by another writer, merging through QSettings.").arg(m_store.fileName()));
     stored.insert(SettingsKeys::ChecksumTag, checksum);
-    m_store.setValue(SettingsKeys::Inst, stored);
-    m_store.sync();
-    if (m_store.status() != QSettings::NoError) {
+    // A QSettings of its own for each attempt: one whose write failed keeps
+    // reporting the failure ever after. All share the parsed file with m_store.
+    QSettings file(m_store.fileName(), m_store.format());
+    file.setValue(SettingsKeys::Inst, stored);
+    file.sync();
+    if (file.status() != QSettings::NoError) {
         *error = SettingsFileWriter::unwritableReason(m_store.fileName());
         m_lastSeenFile = StoreFileState();
         m_storeHoldsUnwritten = true;
