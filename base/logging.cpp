@@ -76,8 +76,10 @@ void appendEscaped(QString* out, QChar c)
         out->append(QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')));
 }
 
-} // namespace
-
+// A text as it may stand in a record: backslashes doubled, line breaks, tabs
+// and every other control character written as escapes ("\n", "\t", "\x1b",
+// "\u2028"), so that every line break of a record is the format's own and a
+// file name with a newline cannot forge a record.
 QString escapeLogText(const QString& text)
 {
     // Nearly every message is plain: no copy for those.
@@ -93,6 +95,8 @@ QString escapeLogText(const QString& text)
     }
     return out;
 }
+
+} // namespace
 
 QString qualifiedFunctionName(const char* prettyFunction)
 {

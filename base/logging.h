@@ -19,14 +19,7 @@ bool logMsgWhenRetFail(bool ok, const QString& message);
 // "void IPC_Thread::run()" -> "IPC_Thread::run"
 QString qualifiedFunctionName(const char* prettyFunction);
 
-// "%1,%2 : 0x%3,%4\n\t%5\n" for the calling thread. The texts it carries
-// pass through escapeLogText(), so every line break in a record is the
-// format's own.
+// "%1,%2 : 0x%3,%4\n\t%5\n" for the calling thread.
 QString formatLogRecord(const QString& function, int line, const QString& message);
-
-// A text as it may stand in a record: backslashes doubled, line breaks, tabs
-// and every other control character written as escapes ("\n", "\t",
-// "\x1b", "\u2028"). A file name with a newline cannot forge a record.
-QString escapeLogText(const QString& text);
 
 void writeLogRecord(const QString& function, int line, const QString& message);
