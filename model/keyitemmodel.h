@@ -65,8 +65,7 @@ public:
     // Takes the item at a key off the current page and frees it late.
     bool deleteKeyItem(int keyIdx);
     void deleteKeyItemLater(KeyItem* item);
-    // Writes an edit burst whose late save is still pending, or tries again
-    // a save that failed (quitting).
+    // Writes an edit burst whose late save is still pending (quitting).
     void flushPendingSave();
     // Tells the views and the keypad that one item was edited.
     void updateKeyitemState(const KeyItem* item);
