@@ -147,6 +147,21 @@ int main(int argc, char** argv)
                                   {QStringLiteral("real"), 0.5},
                                   {QStringLiteral("none"), QVariant()}};
 
+    // Values a hostile file with a valid checksum may carry: a colour model
+    // that is no QColor::Spec, and a key count far beyond the items.
+    QByteArray badColour = contentInput(false, layout);
+    QByteArray white;
+    {
+        QDataStream stream(&white, QIODevice::WriteOnly);
+        stream << QVariant(QColor(255, 255, 255));
+    }
+    const int colour = badColour.indexOf(white);
+    if (colour < 0)
+        return 1;
+    badColour[colour + 5] = '\x7f';
+    QVariantMap hugeCount = favourites;
+    hugeCount.insert(SettingsKeys::KeyCnt, 0x7fffffff);
+
     // The favourites file with the first digit of its checksum changed.
     QByteArray badChecksum = Settings::encodeExportFile(SettingsKeys::MyFavorite, favourites);
     const QString sum = Settings::checksum({{SettingsKeys::MyFavorite, favourites}});
@@ -176,6 +191,8 @@ int main(int argc, char** argv)
         write(contents, QStringLiteral("layout_keys"), contentInput(false, layout)) &&
         write(contents, QStringLiteral("favorites_keys"), contentInput(true, favourites)) &&
         write(contents, QStringLiteral("favorites_other_values"), contentInput(true, otherValues)) &&
+        write(contents, QStringLiteral("layout_bad_colour_model"), badColour) &&
+        write(contents, QStringLiteral("favorites_huge_key_count"), contentInput(true, hugeCount)) &&
         write(settingsFiles, QStringLiteral("saved.conf"), settingsFile(layout, favourites));
     if (!ok) {
         QTextStream(stderr) << "cannot write into " << directory << Qt::endl;
