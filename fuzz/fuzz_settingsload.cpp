@@ -73,12 +73,13 @@ void readTree(const QVariantMap& tree, Settings* store)
 
 } // namespace
 
-// Forged sizes in a settings file make Qt's own parser throw std::bad_alloc,
-// which the program catches; AddressSanitizer must let the allocation fail
-// instead of reporting it.
+// Forged sizes in a settings file make Qt's own parser allocate gigabytes or
+// throw std::bad_alloc, which the program catches. AddressSanitizer lets such
+// an allocation fail, as it may in the program, before libFuzzer's malloc
+// limit would report it.
 extern "C" const char* __asan_default_options()
 {
-    return "allocator_may_return_null=1";
+    return "allocator_may_return_null=1:max_allocation_size_mb=1024";
 }
 
 extern "C" int LLVMFuzzerInitialize(int*, char***)
