@@ -20,11 +20,16 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 } // namespace
 
-// Read by LeakSanitizer at exit: fontconfig, loaded with the fonts of the GUI
+// Read by LeakSanitizer: fontconfig, loaded with the fonts of the GUI
 // application, keeps allocations for the life of the process on purpose.
+// Qt 5.15's JSON parser loses a container on some malformed documents (a
+// string cut short inside nested objects): Qt's leak, found by
+// fuzz_chromiumbookmarks, 144 bytes per damaged file; the suppression
+// matches only with full stacks (see fuzz_chromiumbookmarks.cpp).
 extern "C" const char* __lsan_default_suppressions()
 {
-    return "leak:libfontconfig\n";
+    return "leak:libfontconfig\n"
+           "leak:QJsonDocument::fromJson\n";
 }
 
 namespace FuzzSupport {
