@@ -1,6 +1,8 @@
-// Writes the seed files of the export file fuzzer: small, valid layout and
+// Writes the seed files of the export file fuzzers: small, valid layout and
 // favourites files covering every kind of value the key maps hold, plus a few
-// invalid ones. Usage: fuzz_make_corpus DIRECTORY
+// invalid ones, into DIRECTORY/importfile; their contents, as
+// fuzz_importcontent takes them, into DIRECTORY/importcontent.
+// Usage: fuzz_make_corpus DIRECTORY
 
 #include "settings.h"
 #include "settingskeys.h"
@@ -13,6 +15,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 namespace {
@@ -78,6 +81,34 @@ QVariantMap folderKey(int index)
                face(QStringLiteral("Folder"), false));
 }
 
+// fuzz_importcontent's input: the kind, then the content as a QVariant.
+QByteArray contentInput(bool favourites, const QVariantMap& content)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream << QVariant(content);
+    return bytes.prepend(favourites ? '\1' : '\0');
+}
+
+// A Keystage.conf as the store saves it, holding one layout's page and the
+// favourites: fuzz_settingsload's seed.
+QByteArray settingsFile(const QVariantMap& page, const QVariantMap& favourites)
+{
+    QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    QString path;
+    {
+        Settings store;
+        store.setValue(SettingsKeys::keyItemsKey(QStringLiteral("V_Key_15")), page);
+        store.setValue(SettingsKeys::MyFavoriteItems, favourites);
+        if (!store.save())
+            return QByteArray();
+        path = store.fileName();
+    }
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 bool write(const QString& directory, const QString& name, const QByteArray& bytes)
 {
     QFile file(QDir(directory).filePath(name));
@@ -94,8 +125,12 @@ int main(int argc, char** argv)
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
-    const QString directory = QString::fromLocal8Bit(argv[1]);
+    const QString directory = QString::fromLocal8Bit(argv[1]) + QStringLiteral("/importfile");
+    const QString contents = QString::fromLocal8Bit(argv[1]) + QStringLiteral("/importcontent");
+    const QString settingsFiles = QString::fromLocal8Bit(argv[1]) + QStringLiteral("/settingsload");
     QDir().mkpath(directory);
+    QDir().mkpath(contents);
+    QDir().mkpath(settingsFiles);
 
     const QVariantMap layout{{SettingsKeys::KeyCnt, 3},
                              {SettingsKeys::keyMapKey(0), pasteKey(0, true)},
@@ -111,6 +146,21 @@ int main(int argc, char** argv)
                                   {QStringLiteral("big"), qlonglong(1) << 40},
                                   {QStringLiteral("real"), 0.5},
                                   {QStringLiteral("none"), QVariant()}};
+
+    // Values a hostile file with a valid checksum may carry: a colour model
+    // that is no QColor::Spec, and a key count far beyond the items.
+    QByteArray badColour = contentInput(false, layout);
+    QByteArray white;
+    {
+        QDataStream stream(&white, QIODevice::WriteOnly);
+        stream << QVariant(QColor(255, 255, 255));
+    }
+    const int colour = badColour.indexOf(white);
+    if (colour < 0)
+        return 1;
+    badColour[colour + 5] = '\x7f';
+    QVariantMap hugeCount = favourites;
+    hugeCount.insert(SettingsKeys::KeyCnt, 0x7fffffff);
 
     // The favourites file with the first digit of its checksum changed.
     QByteArray badChecksum = Settings::encodeExportFile(SettingsKeys::MyFavorite, favourites);
@@ -137,7 +187,13 @@ int main(int argc, char** argv)
         write(directory, QStringLiteral("favorites_other_values"),
               Settings::encodeExportFile(SettingsKeys::MyFavorite, otherValues)) &&
         write(directory, QStringLiteral("favorites_bad_checksum"), badChecksum) &&
-        write(directory, QStringLiteral("forged_counts"), forged);
+        write(directory, QStringLiteral("forged_counts"), forged) &&
+        write(contents, QStringLiteral("layout_keys"), contentInput(false, layout)) &&
+        write(contents, QStringLiteral("favorites_keys"), contentInput(true, favourites)) &&
+        write(contents, QStringLiteral("favorites_other_values"), contentInput(true, otherValues)) &&
+        write(contents, QStringLiteral("layout_bad_colour_model"), badColour) &&
+        write(contents, QStringLiteral("favorites_huge_key_count"), contentInput(true, hugeCount)) &&
+        write(settingsFiles, QStringLiteral("saved.conf"), settingsFile(layout, favourites));
     if (!ok) {
         QTextStream(stderr) << "cannot write into " << directory << Qt::endl;
         return 1;

@@ -1,6 +1,7 @@
 #include "boundedmapreader.h"
 
 #include "settings.h"
+#include "valuesanity.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -19,6 +20,11 @@ bool BoundedMapReader::readDocument(QVariantMap* map)
     if (remaining() != 0)
         return fail(QStringLiteral("%1 bytes after the end of the map").arg(remaining()));
     return true;
+}
+
+QByteArray BoundedMapReader::topLevelEntry(const QString& key) const
+{
+    return m_topLevelEntries.value(key);
 }
 
 bool BoundedMapReader::fail(const QString& why)
@@ -92,15 +98,18 @@ bool BoundedMapReader::readMap(QVariantMap* map, int depth)
     if (!takeCount(&count, MinMapEntrySize, "map"))
         return false;
     for (quint32 i = 0; i < count; ++i) {
+        const qint64 start = m_position;
         QString key;
         if (!readString(&key))
             return false;
         if (map->contains(key))
             return fail(QStringLiteral("key \"%1\" appears twice").arg(key));
         QVariant value;
-        if (!readVariant(&value, depth + 1))
+        if (!readVariant(&value, depth + 1, key))
             return false;
         map->insert(key, value);
+        if (depth == 0)
+            m_topLevelEntries.insert(key, m_bytes.mid(int(start), int(m_position - start)));
     }
     return true;
 }
@@ -114,7 +123,7 @@ bool BoundedMapReader::readList(QVariantList* list, int depth)
         return false;
     for (quint32 i = 0; i < count; ++i) {
         QVariant value;
-        if (!readVariant(&value, depth + 1))
+        if (!readVariant(&value, depth + 1, QStringLiteral("a list element")))
             return false;
         list->append(value);
     }
@@ -141,7 +150,7 @@ bool BoundedMapReader::readString(QString* text)
     return walkString() && readWalked(start, [&] { m_stream >> *text; });
 }
 
-bool BoundedMapReader::readVariant(QVariant* value, int depth)
+bool BoundedMapReader::readVariant(QVariant* value, int depth, const QString& name)
 {
     const qint64 start = m_position;
     quint32 type = 0;
@@ -175,8 +184,13 @@ bool BoundedMapReader::readVariant(QVariant* value, int depth)
     }
     if (!walkLeaf(type))
         return false;
-    return readWalked(start, [&] { m_stream >> *value; }) &&
-           (value->userType() == int(type) || fail(QStringLiteral("value of type %1 changed type").arg(type)));
+    if (!readWalked(start, [&] { m_stream >> *value; }))
+        return false;
+    if (value->userType() != int(type))
+        return fail(QStringLiteral("value of type %1 changed type").arg(type));
+    if (!ValueSanity::problem(*value).isEmpty())
+        *value = ValueSanity::usable(*value, QStringLiteral("\"%1\" at byte %2").arg(name).arg(start));
+    return true;
 }
 
 bool BoundedMapReader::walkLeaf(quint32 type)

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QDataStream>
+#include <QHash>
 #include <QString>
 #include <QVariantMap>
 
@@ -15,6 +16,8 @@
 // are left and against a budget for the whole file; every other value must be
 // of a type the program stores, and is only handed to QDataStream once its
 // exact extent is known, after which the stream has to end right there.
+// Colours, fonts and images that Qt reads but the program cannot use (see
+// ValueSanity) come out as the default value of their type, with a log line.
 class BoundedMapReader
 {
 public:
@@ -23,6 +26,9 @@ public:
     // The bytes must hold exactly one map.
     bool readDocument(QVariantMap* map);
     QString failure() const { return m_failure; }
+
+    // An entry of the document's map, key and value, as the bytes hold it.
+    QByteArray topLevelEntry(const QString& key) const;
 
 private:
     // An entry takes at least a key length and a value header.
@@ -47,8 +53,8 @@ private:
     bool readStringList(QStringList* list);
     bool readString(QString* text);
 
-    // A QVariant: type id, null flag, value.
-    bool readVariant(QVariant* value, int depth);
+    // A QVariant: type id, null flag, value. The name is for the log.
+    bool readVariant(QVariant* value, int depth, const QString& name);
 
     // Advances over the value part of a QVariant of one of the types the
     // program stores; anything else is refused.
@@ -69,4 +75,5 @@ private:
     qint64 m_position = 0;
     quint32 m_budget;
     QString m_failure;
+    QHash<QString, QByteArray> m_topLevelEntries;
 };

@@ -25,6 +25,37 @@ KeyItem* copyKeepingLayout(const QVariantMap& map)
     return item;
 }
 
+bool isInteger(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The item maps "keyMap_0" to "keyMap_<KeyCnt - 1>" that the map holds, in
+// order, each missing one logged. The walk ends with the map's entries,
+// whatever count it states.
+QList<QVariantMap> itemMaps(const QVariantMap& keyItemMaps)
+{
+    const int stated = Settings::boundedCount(keyItemMaps, SettingsKeys::KeyCnt, keyItemMaps.size());
+    QList<QVariantMap> maps;
+    for (int i = 0; i < stated; ++i) {
+        const QVariant value = keyItemMaps.value(QString(SettingsKeys::KeyMapPattern).arg(i));
+        if (value.userType() != QMetaType::QVariantMap || value.toMap().isEmpty()) {
+            LOG_MSG(QStringLiteral("Err: Can't find keyMap_%1").arg(i));
+            continue;
+        }
+        maps.append(value.toMap());
+    }
+    return maps;
+}
+
 } // namespace
 
 FavoriteKeyItemModel::FavoriteKeyItemModel(QObject* parent) : QObject(parent) {}
@@ -110,14 +141,10 @@ void FavoriteKeyItemModel::reloadKeyItemsFromSettings()
     Settings* store = settings();
     const QVariant stored = store ? store->value(SettingsKeys::MyFavoriteItems) : QVariant();
     const QVariantMap map = stored.userType() == QMetaType::QVariantMap ? stored.toMap() : QVariantMap();
-    const int count = Settings::boundedCount(map, SettingsKeys::KeyCnt, map.size());
-    for (int i = 0; i < count && m_items.size() < MaxItems; ++i) {
-        const QVariant value = map.value(QString(SettingsKeys::KeyMapPattern).arg(i));
-        if (value.userType() != QMetaType::QVariantMap || value.toMap().isEmpty()) {
-            LOG_MSG(QStringLiteral("Err: Can't find keyMap_%1").arg(i));
-            continue;
-        }
-        m_items.append(copyKeepingLayout(value.toMap()));
+    for (const QVariantMap& item : itemMaps(map)) {
+        if (m_items.size() >= MaxItems)
+            break;
+        m_items.append(copyKeepingLayout(item));
     }
     emit updateContent();
 }
@@ -126,15 +153,15 @@ void FavoriteKeyItemModel::appendKeyItemFromImportedFile(const QVariantMap& keyI
 {
     if (keyItemMaps.isEmpty())
         return;
-    const QVariant countValue = keyItemMaps.value(SettingsKeys::KeyCnt, -1);
-    bool ok = false;
-    const int keyCnt = countValue.toInt(&ok);
-    if (!ok || keyCnt == -1) {
+    if (!isInteger(keyItemMaps.value(SettingsKeys::KeyCnt)) || keyItemMaps.value(SettingsKeys::KeyCnt).toInt() == -1) {
         LOG_MSG(QStringLiteral("Err: Can't find saved key!"));
         return;
     }
+    // The count a file states is trusted no further than the item maps it
+    // holds: those are what the questions below speak of and what is added.
+    const QList<QVariantMap> imported = itemMaps(keyItemMaps);
     const int current = m_items.size();
-    const QString source = m_importFileName.isEmpty() ? QString::number(keyCnt) : m_importFileName;
+    const QString source = m_importFileName.isEmpty() ? QString::number(imported.size()) : m_importFileName;
     if (current >= MaxItems) {
         UserQuestion full;
         full.subject = tr("You have reached the limit of \"My Favorite\".");
@@ -143,28 +170,23 @@ void FavoriteKeyItemModel::appendKeyItemFromImportedFile(const QVariantMap& keyI
         UserQuestions::ask(full);
         return;
     }
-    if (current + keyCnt > MaxItems) {
+    if (imported.size() > MaxItems - current) {
         UserQuestion over;
         over.subject = tr("The limit of \"My Favorite\" is %1 items.").arg(MaxItems);
         over.text = tr("You already have %1 item in \"My Favorite.\" If continues, %2 item will be lost. Are you sure "
                        "you want to proceed?")
                         .arg(current)
-                        .arg(current + keyCnt - MaxItems);
+                        .arg(current + imported.size() - MaxItems);
         over.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
         over.buttons[UserQuestion::RightSlot] = UserQuestion::Continue;
         if (UserQuestions::ask(over).button != UserQuestion::Continue)
             return;
     }
-    // The first keys of the file are kept; the count is trusted no further
-    // than the entries the map holds.
-    const int entries = qMin(keyCnt, keyItemMaps.size());
-    for (int i = 0; i < entries && m_items.size() < MaxItems; ++i) {
-        const QVariant value = keyItemMaps.value(QString(SettingsKeys::KeyMapPattern).arg(i));
-        if (value.userType() != QMetaType::QVariantMap || value.toMap().isEmpty()) {
-            LOG_MSG(QStringLiteral("Err: Can't find keyMap_%1").arg(i));
-            continue;
-        }
-        m_items.append(copyKeepingLayout(value.toMap()));
+    // The first keys of the file are kept.
+    for (const QVariantMap& map : imported) {
+        if (m_items.size() >= MaxItems)
+            break;
+        m_items.append(copyKeepingLayout(map));
     }
     emit updateContent();
     saveKeyItemsToSettings();

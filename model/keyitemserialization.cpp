@@ -10,6 +10,7 @@
 #include "keyitem.h"
 #include "logging.h"
 #include "settings.h"
+#include "valuesanity.h"
 
 namespace {
 
@@ -216,13 +217,15 @@ const QVariantMap& operator>>(const QVariantMap& map, KeyRenderInfo& face)
     face.hintFlags = readInt(map, QStringLiteral("hintFlags"), KeyRenderInfo::DefaultHintFlags);
     face.text = readString(map, QStringLiteral("text"));
     face.textAlign = readInt(map, QStringLiteral("textAlign"), KeyRenderInfo::DefaultTextAlign);
-    const QVariant font = map.value(QStringLiteral("textFont"));
+    // Settings files reach here without BoundedMapReader: the values are
+    // looked at before they are copied out.
+    const QVariant font = ValueSanity::usable(map.value(QStringLiteral("textFont")), QStringLiteral("textFont"));
     face.textFont = font.userType() == QMetaType::QFont ? font.value<QFont>() : QFont();
-    const QVariant color = map.value(QStringLiteral("textColor"));
+    const QVariant color = ValueSanity::usable(map.value(QStringLiteral("textColor")), QStringLiteral("textColor"));
     face.textColor = color.userType() == QMetaType::QColor ? color.value<QColor>() : QColor();
     if (!face.textColor.isValid())
         face.textColor = QColor(255, 255, 255, 255);
-    const QVariant image = map.value(QStringLiteral("userImg"));
+    const QVariant image = ValueSanity::usable(map.value(QStringLiteral("userImg")), QStringLiteral("userImg"));
     face.userImg = image.userType() == QMetaType::QPixmap ? image.value<QPixmap>() : QPixmap();
     face.defImgPath = readString(map, QStringLiteral("defImgPath"));
     return map;

@@ -684,8 +684,18 @@ Settings::ExportFile Settings::parseExportFile(const QByteArray& bytes)
         return rejected(ImportProblem::NotAnExportFile,
                         QStringLiteral("unexpected top-level keys: %1").arg(top.keys().join(QLatin1Char(' '))));
 
+    // The checksum covers the content as the file holds it: the map of that
+    // one entry. Encoding the values again would give other bytes for an
+    // image another encoder wrote, and for a value the reader replaced by its
+    // default (a colour or font the program cannot use).
     const QString storedChecksum = top.take(SettingsKeys::ChecksumTag).toString();
-    if (storedChecksum != checksum(top))
+    QByteArray checked;
+    {
+        QDataStream stream(&checked, QIODevice::WriteOnly);
+        stream << quint32(1);
+    }
+    checked += reader.topLevelEntry(contentKey);
+    if (storedChecksum != QString::fromLatin1(QCryptographicHash::hash(checked, QCryptographicHash::Md5).toHex()))
         return rejected(ImportProblem::ChecksumMismatch, QStringLiteral("checksum mismatch"));
 
     ExportFile file;

@@ -11,6 +11,7 @@
 // GIO names a struct member "signals", which Qt defines as a keyword.
 #pragma push_macro("signals")
 #undef signals
+#include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
 #pragma pop_macro("signals")
 
@@ -42,14 +43,15 @@ bool readEntry(GAppInfo* info, ProgramLocator& locator, ApplicationEntry* entry)
 {
     const DesktopExec exec(fromUtf8(g_app_info_get_commandline(info)));
     entry->desktopId = fromUtf8(g_app_info_get_id(info));
-    if (!exec.isValid()) {
+    // "env NAME=value" alone names no program to start.
+    entry->executable = exec.isValid() ? exec.executable(locator) : QString();
+    if (entry->executable.isEmpty()) {
         LOG_MSG(QStringLiteral("no usable Exec line in %1").arg(entry->desktopId));
         return false;
     }
     entry->name = fromUtf8(g_app_info_get_display_name(info));
     entry->description = fromUtf8(g_app_info_get_description(info));
     entry->commandLine = exec.commandLine();
-    entry->executable = exec.executable(locator);
     readIcon(info, entry);
     return true;
 }
@@ -77,4 +79,19 @@ ApplicationList InstalledApplications::query()
                   return collator.compare(a.name, b.name) < 0;
               });
     return applications;
+}
+
+bool InstalledApplications::readDesktopEntry(const QByteArray& contents, ApplicationEntry* entry)
+{
+    GKeyFile* keyFile = g_key_file_new();
+    bool listed = false;
+    if (g_key_file_load_from_data(keyFile, contents.constData(), gsize(contents.size()), G_KEY_FILE_NONE, nullptr)) {
+        if (GDesktopAppInfo* info = g_desktop_app_info_new_from_keyfile(keyFile)) {
+            ProgramLocator locator;
+            listed = g_app_info_should_show(G_APP_INFO(info)) && readEntry(G_APP_INFO(info), locator, entry);
+            g_object_unref(info);
+        }
+    }
+    g_key_file_unref(keyFile);
+    return listed;
 }

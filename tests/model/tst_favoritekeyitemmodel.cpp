@@ -10,6 +10,8 @@
 #include "testmain.h"
 #include "userquestion.h"
 
+#include <limits>
+
 namespace {
 
 KeyItem* textKey(const QString& text, int layout = V_Key_15)
@@ -60,18 +62,26 @@ private slots:
         m_settings.reset();
     }
 
+    // A file's "KeyCnt" may be anything; the questions speak of the items it
+    // holds, and no count makes them go unasked.
     void shouldAskBeforeLosingItemsOverTheLimit_data()
     {
         QTest::addColumn<int>("answer");
+        QTest::addColumn<int>("keyCnt");
         QTest::addColumn<int>("kept");
-        QTest::newRow("continued") << int(UserQuestion::Continue) << 60;
-        QTest::newRow("cancelled") << int(UserQuestion::Cancel) << 58;
-        QTest::newRow("closed by the title bar") << int(UserQuestion::NoButton) << 58;
+        QTest::newRow("continued") << int(UserQuestion::Continue) << 5 << 60;
+        QTest::newRow("cancelled") << int(UserQuestion::Cancel) << 5 << 58;
+        QTest::newRow("closed by the title bar") << int(UserQuestion::NoButton) << 5 << 58;
+        const int huge = std::numeric_limits<int>::max();
+        QTest::newRow("continued, KeyCnt 2147483647") << int(UserQuestion::Continue) << huge << 60;
+        QTest::newRow("cancelled, KeyCnt 2147483647") << int(UserQuestion::Cancel) << huge << 58;
+        QTest::newRow("continued, KeyCnt 1000") << int(UserQuestion::Continue) << 1000 << 60;
     }
 
     void shouldAskBeforeLosingItemsOverTheLimit()
     {
         QFETCH(int, answer);
+        QFETCH(int, keyCnt);
         QFETCH(int, kept);
         FavoriteKeyItemModel model;
         model.appendKeyItemFromImportedFile(fileOf(58, QStringLiteral("old")));
@@ -79,7 +89,9 @@ private slots:
         QVERIFY(m_questions.isEmpty());
 
         m_answer = UserQuestion::Button(answer);
-        model.appendKeyItemFromImportedFile(fileOf(5, QStringLiteral("new")));
+        QVariantMap file = fileOf(5, QStringLiteral("new"));
+        file.insert(SettingsKeys::KeyCnt, keyCnt);
+        model.appendKeyItemFromImportedFile(file);
         QCOMPARE(m_questions.size(), 1);
         QCOMPARE(m_questions.first().subject, QStringLiteral("The limit of \"My Favorite\" is 60 items."));
         QCOMPARE(m_questions.first().text,

@@ -8,7 +8,11 @@
 #include "testfiles.h"
 #include "testmain.h"
 
+#include "keyitem.h"
+#include "keyitemserialization.h"
+
 #include <QBuffer>
+#include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
 #include <QImageWriter>
@@ -17,6 +21,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <limits>
 #include <unistd.h>
 #include <vector>
 
@@ -207,6 +212,32 @@ bool isRejected(const Settings::ExportFile& file, Settings::ImportProblem proble
 {
     return !file.isValid() && file.kind == Settings::ExportKind::Invalid && file.problem == problem &&
            !file.error.isEmpty() && file.content.isEmpty();
+}
+
+// The file with its checksum computed again over the content entry as the
+// bytes hold it, as anyone can do for a file they changed.
+QByteArray rechecked(const QByteArray& file)
+{
+    const QByteArray tag = streamed(QString(SettingsKeys::ChecksumTag));
+    const int at = file.lastIndexOf(tag);
+    const QByteArray entry = file.mid(4, at - 4);
+    const QString sum =
+        QString::fromLatin1(QCryptographicHash::hash(streamed(quint32(1)) + entry, QCryptographicHash::Md5).toHex());
+    return file.left(at) + tag + streamed(QVariant(sum));
+}
+
+// The stream form of value with bytes put in at offset from its start.
+QByteArray patchedValue(const QVariant& value, int offset, const QByteArray& bytes)
+{
+    QByteArray form = streamed(value);
+    form.replace(5 + offset, bytes.size(), bytes); // after the type id and null flag
+    return form;
+}
+
+// Where a QFont's fixed fields start in its stream form: after family and style name.
+int fontFieldsAt(const QFont& font)
+{
+    return streamed(font.family()).size() + streamed(font.styleName()).size();
 }
 
 } // namespace
@@ -639,6 +670,107 @@ private slots:
         const Settings::ExportFile file = Settings::parseExportFile(bytes);
         QVERIFY2(isRejected(file, Settings::ImportProblem(problem)), qPrintable(file.detail));
         QVERIFY2((file.error + ' ' + file.detail).contains(reason), qPrintable(file.detail));
+    }
+
+    // Qt's stream operators take any colour model byte, font weight or
+    // stretch; the checksum has no key, so a file can carry any of them.
+    // Through an export file or through the settings tree (which QSettings
+    // parses with those operators), such a value reads as the default.
+    void shouldReadUnusableColoursAndFontsAsDefaults_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("viaExportFile");
+        const QVariant rgb = QColor(10, 20, 30, 200);
+        const QVariant hsv = QColor::fromHsv(100, 200, 200);
+        const QVariant extended = QColor::fromRgbF(1.5, 0, 0);
+        const QVariant font = styledFont();
+        const int fields = fontFieldsAt(styledFont());
+        const QByteArray nan = streamed(std::numeric_limits<double>::quiet_NaN());
+        const struct
+        {
+            const char* name;
+            QVariant value;
+            int offset;
+            QByteArray bytes;
+        } rows[] = {
+            {"colour model 127", rgb, 0, QByteArray("\x7f")},
+            {"colour model -1", rgb, 0, QByteArray("\xff")},
+            {"hue 400 degrees", hsv, 3, streamed(quint16(40000))},
+            {"extended red not a number", extended, 3, streamed(quint16(0x7e00))},
+            {"font size not a number", font, fields, nan},
+            {"font weight 120", font, fields + 16, QByteArray("\x78")},
+            {"font stretch 4095", font, fields + 18, streamed(quint16(4095))},
+            {"font style hint 200", font, fields + 12, QByteArray("\xc8")},
+            {"font letter spacing huge", font, fields + 21, streamed(qint32(0x7fffffff))},
+        };
+        for (const auto& row : rows) {
+            QTest::addRow("%s, export file", row.name) << row.value << row.offset << row.bytes << true;
+            QTest::addRow("%s, settings tree", row.name) << row.value << row.offset << row.bytes << false;
+        }
+    }
+
+    void shouldReadUnusableColoursAndFontsAsDefaults()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(int, offset);
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, viaExportFile);
+        const bool isColour = value.userType() == QMetaType::QColor;
+        const QString key = isColour ? QStringLiteral("textColor") : QStringLiteral("textFont");
+        const QVariantMap face{{QStringLiteral("text"), QStringLiteral("t")}, {key, value}};
+        const QVariantMap item{{QStringLiteral("actionTypeString"), QStringLiteral("KAT_PASTE_STRING")},
+                               {QStringLiteral("keyRenderMap_0"), face}};
+        const QVariantMap page{{SettingsKeys::KeyCnt, 1}, {SettingsKeys::keyMapKey(0), item}};
+        const QByteArray bad = patchedValue(value, offset, bytes);
+
+        LogCapture capture;
+        QVariantMap itemRead;
+        if (viaExportFile) {
+            QByteArray file = Settings::encodeExportFile(SettingsKeys::MyLayout, page);
+            QCOMPARE(file.count(streamed(value)), 1);
+            file.replace(streamed(value), bad);
+            const QString path = m_files->filePath(QStringLiteral("hostile.bin"));
+            QVERIFY(TestFiles::write(path, rechecked(file)));
+            Settings settings;
+            const Settings::ExportFile imported = settings.importFile(path);
+            QVERIFY2(imported.isValid(), qPrintable(imported.detail));
+            itemRead = imported.content.value(SettingsKeys::keyMapKey(0)).toMap();
+        } else {
+            QVariant parsed;
+            QDataStream stream(bad);
+            stream >> parsed; // as QSettings parses the settings file
+            QCOMPARE(stream.status(), QDataStream::Ok);
+            QVariantMap badFace = face;
+            badFace.insert(key, parsed);
+            itemRead = item;
+            itemRead.insert(QStringLiteral("keyRenderMap_0"), badFace);
+        }
+        KeyItem read;
+        itemRead >> read;
+        QCOMPARE(read.render[0].text, QStringLiteral("t"));
+        if (isColour)
+            QCOMPARE(read.render[0].textColor, QColor(255, 255, 255, 255));
+        else
+            QCOMPARE(read.render[0].textFont, QFont());
+        QCOMPARE(capture.matching(QStringLiteral("is unusable")).size(), 1);
+    }
+
+    // The checksum covers the bytes of the file, not the program's own
+    // encoding of what it read: an image another PNG encoder wrote is fine.
+    void shouldImportImagesAnotherEncoderWrote()
+    {
+        const QPixmap image = semiTransparentPixmap();
+        const QByteArray png = pngFile(image.toImage(), 100); // no compression
+        QByteArray file = Settings::encodeExportFile(SettingsKeys::MyLayout, {{QStringLiteral("img"), image}});
+        const QByteArray qtPng = pngFile(image.toImage());
+        QVERIFY(png != qtPng);
+        QCOMPARE(file.count(qtPng), 1);
+        file.replace(qtPng, png);
+        const Settings::ExportFile imported = Settings::parseExportFile(rechecked(file));
+        QVERIFY2(imported.isValid(), qPrintable(imported.detail));
+        QCOMPARE(imported.content.value(QStringLiteral("img")).value<QPixmap>().toImage(), image.toImage());
     }
 
     void shouldRejectFilesItCannotOrShouldNotRead()

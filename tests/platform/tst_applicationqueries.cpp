@@ -67,6 +67,8 @@ private slots:
                                      m_fixture.filePath(QStringLiteral("icon.png")).toUtf8() + "\n"));
         QVERIFY(TestFiles::write(system + QStringLiteral("hidden.desktop"),
                                  "[Desktop Entry]\nType=Application\nName=Hidden\nExec=true\nNoDisplay=true\n"));
+        QVERIFY(TestFiles::write(system + QStringLiteral("envonly.desktop"),
+                                 "[Desktop Entry]\nType=Application\nName=Env\nExec=env LANG=C %U\n"));
         QVERIFY(TestFiles::write(
             system + QStringLiteral("missing.desktop"),
             "[Desktop Entry]\nType=Application\nName=Missing\nExec=nowhere\nTryExec=/nonexistent/nowhere\n"));
@@ -113,6 +115,8 @@ private slots:
             << "flatpak run --branch=stable --arch=x86_64 --command=flat --file-forwarding org.example.Flat"
             << "org.example.Flat" << m_fixture.filePath(QStringLiteral("bin/flatpak"));
         QTest::newRow("NoDisplay") << "hidden.desktop" << QString() << QString() << QString() << QString();
+        QTest::newRow("env assignments, no program")
+            << "envonly.desktop" << QString() << QString() << QString() << QString();
         QTest::newRow("TryExec missing") << "missing.desktop" << QString() << QString() << QString() << QString();
     }
 
