@@ -1,5 +1,6 @@
 #include "addtextdialog.h"
 
+#include "dialogbuttons.h"
 #include "stepbuilder.h"
 
 #include <QDialogButtonBox>
@@ -26,6 +27,7 @@ AddTextDialog::AddTextDialog(QWidget* parent)
     m_summary->setWordWrap(true);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    DialogButtons::useOwnTexts(buttons);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("Add"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
