@@ -28,6 +28,7 @@
 #include <QFile>
 #include <QFontComboBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -52,10 +53,10 @@ const char* const TsSuffixes[] = {"en_us", "ja", "zh_TW", "it", "de", "fr"};
 
 // Words that are the same in every language: names, and key names as
 // printed on keyboards.
-const QStringList SameEverywhere = {
-    QStringLiteral("Keystage"), QStringLiteral("Ctrl"), QStringLiteral("Alt"),     QStringLiteral("Shift"),
-    QStringLiteral("Super"),    QStringLiteral("Esc"),  QStringLiteral("OK"),      QStringLiteral("Tab"),
-    QStringLiteral("Enter"),    QStringLiteral("URL"),  QStringLiteral("Firmware")};
+const QStringList SameEverywhere = {QStringLiteral("Keystage"), QStringLiteral("Ctrl"),    QStringLiteral("Alt"),
+                                    QStringLiteral("Shift"),    QStringLiteral("Super"),   QStringLiteral("Esc"),
+                                    QStringLiteral("OK"),       QStringLiteral("Tab"),     QStringLiteral("Enter"),
+                                    QStringLiteral("URL"),      QStringLiteral("Firmware")};
 
 QString withoutMnemonic(QString text)
 {
@@ -141,7 +142,6 @@ public:
 
     QStringList clipped;
     QStringList english;
-    int inspected = 0;
 
     void inspect(const QString& where, QWidget* root)
     {
@@ -154,7 +154,7 @@ public:
             const QString place = QStringLiteral("%1: %2 > %3 %4")
                                       .arg(where, QLatin1String(widget->window()->metaObject()->className()),
                                            QLatin1String(widget->metaObject()->className()), widget->objectName());
-            ++inspected;
+            checkInsideWindow(place, widget, root);
             if (auto* label = qobject_cast<QLabel*>(widget))
                 inspectLabel(place, label);
             else if (auto* button = qobject_cast<QAbstractButton*>(widget))
@@ -167,6 +167,8 @@ public:
                 inspectComboBox(place, combo);
             else if (auto* list = qobject_cast<QListWidget*>(widget))
                 inspectList(place, list);
+            else if (auto* header = qobject_cast<QHeaderView*>(widget))
+                inspectHeader(place, header);
             else if (auto* edit = qobject_cast<QLineEdit*>(widget))
                 checkLanguage(place, edit->placeholderText());
             else if (auto* text = qobject_cast<QPlainTextEdit*>(widget))
@@ -203,6 +205,30 @@ private:
             clipped << QStringLiteral("%1 \"%2\" needs %3 px, has %4").arg(place, text).arg(needed).arg(given);
     }
 
+    // A control that sticks out sideways of a parent (a form wider than its
+    // column) is cut off there, however well its own text fits it.
+    void checkInsideWindow(const QString& place, QWidget* widget, QWidget* root)
+    {
+        const bool showsText = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
+                               qobject_cast<QComboBox*>(widget) || qobject_cast<QLineEdit*>(widget) ||
+                               qobject_cast<QAbstractScrollArea*>(widget);
+        if (!showsText)
+            return;
+        QRect rect = widget->rect();
+        for (QWidget* child = widget; child != root && child->parentWidget(); child = child->parentWidget()) {
+            rect.translate(child->pos());
+            const int outside = qMax(rect.right() + 1 - child->parentWidget()->width(), -rect.left());
+            if (outside > 0) {
+                if (firstTime(place, QStringLiteral("outside")))
+                    clipped << QStringLiteral("%1 sticks out of %2 %3 by %4 px")
+                                   .arg(place, QLatin1String(child->parentWidget()->metaObject()->className()),
+                                        child->parentWidget()->objectName())
+                                   .arg(outside);
+                return;
+            }
+        }
+    }
+
     void checkLanguage(const QString& place, const QString& text)
     {
         if (m_language == 0 || text.trimmed().isEmpty() || SameEverywhere.contains(withoutMnemonic(text)))
@@ -221,23 +247,17 @@ private:
             return;
         }
         checkLanguage(place, text);
-        const QRect room = label->contentsRect().adjusted(label->margin(), label->margin(), -label->margin(),
-                                                          -label->margin());
+        const QRect room =
+            label->contentsRect().adjusted(label->margin(), label->margin(), -label->margin(), -label->margin());
         if (label->wordWrap()) {
-            // A wrapped label that is too short cuts off its last lines.
+            // A wrapped label breaks even inside a word where it must; one
+            // that is too short cuts off its last lines.
             const int needed = label->heightForWidth(label->width());
             if (needed > label->height() && firstTime(place, text))
                 clipped << QStringLiteral("%1 \"%2\" needs %3 px high, has %4")
                                .arg(place, text)
                                .arg(needed)
                                .arg(label->height());
-            // A single word longer than the line spills out sideways.
-            const QStringList words = text.split(QRegularExpression(QStringLiteral("\\s+")), Qt::SkipEmptyParts);
-            for (const QString& word : words) {
-                const int wordWidth = label->fontMetrics().horizontalAdvance(word);
-                if (wordWidth > room.width() && !word.contains(QRegularExpression(QStringLiteral("[\\x{3000}-\\x{9fff}]"))))
-                    note(place, word, wordWidth, room.width());
-            }
             return;
         }
         const int needed = textWidth(label->fontMetrics(), text) + qMax(0, label->indent());
@@ -301,7 +321,8 @@ private:
                 needed += tabs->iconSize().width();
             // The text sits inside the tab's side margins; a tab made
             // narrower than that shows it elided.
-            const int room = tabs->tabRect(i).width() - tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs) / 2;
+            const int room =
+                tabs->tabRect(i).width() - tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs) / 2;
             if (needed > room)
                 note(place + QStringLiteral(" tab"), text, needed, room);
         }
@@ -329,6 +350,23 @@ private:
         }
     }
 
+    void inspectHeader(const QString& place, QHeaderView* header)
+    {
+        for (int section = 0; section < header->count(); ++section) {
+            if (header->isSectionHidden(section))
+                continue;
+            const QString text = header->model()->headerData(section, header->orientation()).toString();
+            checkLanguage(place, text);
+            const int needed = header->fontMetrics().horizontalAdvance(text) +
+                               2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+            // The last section may reach past the view when it stretches.
+            const int room = qMin(header->sectionSize(section),
+                                  header->viewport()->width() - header->sectionViewportPosition(section));
+            if (needed > room)
+                note(place + QStringLiteral(" section"), text, needed, room);
+        }
+    }
+
     void inspectList(const QString& place, QListWidget* list)
     {
         for (int i = 0; i < list->count(); ++i) {
@@ -336,11 +374,10 @@ private:
             if (item->isHidden())
                 continue;
             checkLanguage(place, item->text());
+            // The item's own size hint holds its text, icon and padding.
             const QRect rect = list->visualItemRect(item);
-            int needed = QFontMetrics(item->font()).horizontalAdvance(item->text());
-            if (!item->icon().isNull())
-                needed += list->iconSize().width() + 4;
-            const int room = qMin(rect.right(), list->viewport()->width()) - rect.left();
+            const int needed = list->sizeHintForIndex(list->model()->index(i, 0)).width();
+            const int room = qMin(rect.right() + 1, list->viewport()->width()) - rect.left();
             if (needed > room)
                 note(place + QStringLiteral(" item"), item->text(), needed, room);
         }

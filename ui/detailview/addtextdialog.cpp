@@ -58,6 +58,7 @@ void AddTextDialog::showSummary()
     const int count = StepBuilder::fromText(m_text->toPlainText(), &skipped).size();
     QString summary = tr("%n step(s)", nullptr, count);
     if (!skipped.isEmpty())
-        summary += QLatin1Char(' ') + tr("Left out: %1").arg(skipped);
+        //: %1 lists the characters that cannot be typed.
+        summary = tr("%n step(s). Left out: %1", nullptr, count).arg(skipped);
     m_summary->setText(summary);
 }

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -95,6 +96,8 @@ void PreferenceDialog::addPage(PreferencePage* page)
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setWidget(page);
+    // Sideways the page never scrolls: the dialog is as wide as its widest page.
+    scroll->setMinimumWidth(page->minimumSizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
     m_stack->addWidget(scroll);
     auto* item = new QListWidgetItem(page->title(), m_list);
     item->setData(Qt::AccessibleTextRole, page->title());
