@@ -132,8 +132,8 @@
         <source>%n step(s). Left out: %1</source>
         <extracomment>%1 lists the characters that cannot be typed.</extracomment>
         <translation>
-            <numerusform>%n étape. Omis : %1</numerusform>
-            <numerusform>%n étapes. Omis : %1</numerusform>
+            <numerusform>%n étape. Omis&#xa0;: %1</numerusform>
+            <numerusform>%n étapes. Omis&#xa0;: %1</numerusform>
         </translation>
     </message>
 </context>
@@ -345,6 +345,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>La liste des émojis ne contient aucun émoji.</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>fr</translation>
     </message>
 </context>
 <context>
@@ -1298,8 +1306,8 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <message numerus="yes">
         <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
         <translation>
-            <numerusform>Enregistrement : appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touche impossible à taper a été omise.</numerusform>
-            <numerusform>Enregistrement : appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touches impossibles à taper ont été omises.</numerusform>
+            <numerusform>Enregistrement&#xa0;: appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touche impossible à taper a été omise.</numerusform>
+            <numerusform>Enregistrement&#xa0;: appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touches impossibles à taper ont été omises.</numerusform>
         </translation>
     </message>
 </context>

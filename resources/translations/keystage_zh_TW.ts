@@ -346,6 +346,14 @@
     </message>
 </context>
 <context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>zh_Hant</translation>
+    </message>
+</context>
+<context>
     <name>FaceEditor</name>
     <message>
         <source>Shown on the key</source>

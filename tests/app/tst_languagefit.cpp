@@ -5,6 +5,7 @@
 #include "formarea.h"
 #include "formdialogs.h"
 #include "hotkeyform.h"
+#include "iconcatalog.h"
 #include "iconchooser.h"
 #include "ka_folder.h"
 #include "keyitem.h"
@@ -234,7 +235,13 @@ private:
         if (m_language == 0 || text.trimmed().isEmpty() || SameEverywhere.contains(withoutMnemonic(text)))
             return;
         const QString source = m_sources->englishSourceOf(text);
-        if (!source.isEmpty() && firstTime(place, text))
+        // A text that never went through tr() is no source at all; in
+        // Japanese and Chinese two English words in a row give it away.
+        static const QRegularExpression englishWords(QStringLiteral("\\b[A-Za-z]{3,}\\s+[A-Za-z]{3,}\\b"));
+        static const QRegularExpression han(QStringLiteral("[\\x{3040}-\\x{9fff}]"));
+        const bool untranslated =
+            (m_language == 1 || m_language == 2) && !text.contains(han) && withoutMnemonic(text).contains(englishWords);
+        if ((!source.isEmpty() || untranslated) && firstTime(place, text))
             english << QStringLiteral("%1 \"%2\"").arg(place, text);
     }
 
@@ -459,8 +466,14 @@ private:
             return false;
         };
         runner.chooseIcon = [this](QWidget* parent, const KeyRenderInfo& face, QImage*) {
-            IconChooser dialog(face, parent);
+            // A catalog of this language's own, read to the end, so the
+            // emoji tab shows names and not a progress note.
+            IconCatalog catalog(EmojiCatalog::defaultPath());
+            IconChooser dialog(face, parent, &catalog);
             dialog.show();
+            catalog.request(IconCatalog::Emoji);
+            if (!QTest::qWaitFor([&catalog] { return catalog.hasResult(IconCatalog::Emoji); }, 60000))
+                inspector->english << QStringLiteral("the emoji list was not read");
             auto* tabs = dialog.findChild<QTabWidget*>();
             for (int tab = 0; tabs && tab < tabs->count(); ++tab) {
                 tabs->setCurrentIndex(tab);
