@@ -569,10 +569,13 @@ void MainWindow::onLayoutImported(const QVariantMap& page)
 
     UserQuestion confirm;
     confirm.subject = tr("Replace the keys of this layout?");
-    confirm.text = tr("The keys of the current layout are replaced by those of %1. You can't undo this action.")
-                       .arg(m_importFileName);
-    if (dropped > 0)
-        confirm.text += QLatin1Char('\n') + tr("%n key(s) do not fit this layout and will be lost.", nullptr, dropped);
+    confirm.text = dropped > 0 ? tr("The keys of the current layout are replaced by those of %1. You can't undo this "
+                                    "action.\n%n key(s) do not fit this layout and will be lost.",
+                                    nullptr, dropped)
+                                     .arg(m_importFileName)
+                               : tr("The keys of the current layout are replaced by those of %1. You can't undo this "
+                                    "action.")
+                                     .arg(m_importFileName);
     confirm.buttons[UserQuestion::MidSlot] = UserQuestion::Cancel;
     confirm.buttons[UserQuestion::RightSlot] = UserQuestion::Import;
     if (UserQuestions::ask(confirm).button != UserQuestion::Import) {

@@ -7,10 +7,35 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QTranslator>
 
 #include <algorithm>
 
 namespace {
+
+const char CommentContext[] = "AutostartEntry";
+const char* const CommentText = QT_TRANSLATE_NOOP("AutostartEntry", "Starts %1 in the tray at login");
+
+// Comment[ll]= lines for every language the program carries, read from its
+// own translations, so the desktop's list of start-up programs reads in the
+// user's language whichever language the program was in when it wrote the
+// entry. The files' names (":/translator/zh-TW.qm") give the locale names.
+QString translatedComments()
+{
+    QString lines;
+    const QDir translations(QStringLiteral(":/translator"));
+    const QStringList files = translations.entryList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
+    for (const QString& file : files) {
+        const QString locale = QFileInfo(file).completeBaseName().replace(QLatin1Char('-'), QLatin1Char('_'));
+        QTranslator translator;
+        if (locale.startsWith(QLatin1String("en")) || !translator.load(translations.filePath(file)))
+            continue;
+        const QString comment = translator.translate(CommentContext, CommentText);
+        if (!comment.isEmpty())
+            lines += QStringLiteral("Comment[%1]=%2\n").arg(locale, comment.arg(QCoreApplication::applicationName()));
+    }
+    return lines;
+}
 
 // Characters that make an Exec argument need quotes, and those that must be
 // escaped inside the quotes.
@@ -176,7 +201,9 @@ QByteArray AutostartEntry::desktopEntry(const QString& program)
     text += QStringLiteral("[Desktop Entry]\n");
     text += QStringLiteral("Type=Application\n");
     text += QStringLiteral("Name=%1\n").arg(QCoreApplication::applicationName());
-    text += QStringLiteral("Comment=Starts %1 in the tray at login\n").arg(QCoreApplication::applicationName());
+    text +=
+        QStringLiteral("Comment=%1\n").arg(QString::fromLatin1(CommentText).arg(QCoreApplication::applicationName()));
+    text += translatedComments();
     // Without the program (uninstalled) the desktop skips the entry.
     text += QStringLiteral("TryExec=%1\n").arg(escapedString(program));
     text += QStringLiteral("Exec=%1\n").arg(escapedString(exec));

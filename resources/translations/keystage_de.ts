@@ -128,9 +128,13 @@
             <numerusform>%n Schritte</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>Ausgelassen: %1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n Schritt. Ausgelassen: %1</numerusform>
+            <numerusform>%n Schritte. Ausgelassen: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -178,6 +182,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>Startet %1 beim Anmelden im Systemabschnitt der Kontrollleiste</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -199,6 +207,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>Titel</translation>
     </message>
     <message>
@@ -228,18 +237,6 @@
         <translation>%1-Sicherung %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>hochkant</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>quer</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>Layout %1 Tasten %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>Meine Favoriten</translation>
     </message>
@@ -254,6 +251,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>Layout %1 Tasten hochkant</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>Layout %1 Tasten quer</translation>
     </message>
 </context>
 <context>
@@ -339,6 +345,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>Die Emoji-Liste enthält keine Emoji.</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>de</translation>
     </message>
 </context>
 <context>
@@ -515,6 +529,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>Ordner</translation>
     </message>
     <message>
@@ -535,6 +550,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>Leeren</translation>
     </message>
     <message>
@@ -589,6 +605,7 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>Tastenkürzel</translation>
     </message>
     <message>
@@ -915,6 +932,7 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>Titel</translation>
     </message>
 </context>
@@ -1153,6 +1171,7 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>Starten</translation>
     </message>
     <message>
@@ -1262,6 +1281,7 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>Leeren</translation>
     </message>
     <message>
@@ -1282,6 +1302,13 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>Das Makro lässt %1 gedrückt: Sie bleibt gedrückt, nachdem das Makro abgespielt wurde.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>Aufzeichnung: Drücken Sie die Tasten des Makros. Esc allein oder Stopp beendet die Aufzeichnung. %n Taste, die nicht getippt werden kann, ausgelassen.</numerusform>
+            <numerusform>Aufzeichnung: Drücken Sie die Tasten des Makros. Esc allein oder Stopp beendet die Aufzeichnung. %n Tasten, die nicht getippt werden können, ausgelassen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1367,13 +1394,6 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>Die Tasten des aktuellen Layouts werden durch die aus %1 ersetzt. Dies kann nicht rückgängig gemacht werden.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>%n Taste passt nicht in dieses Layout und geht verloren.</numerusform>
-            <numerusform>%n Tasten passen nicht in dieses Layout und gehen verloren.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>About %1</source>
         <translation>Über %1</translation>
@@ -1389,6 +1409,16 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 kann jetzt nicht beendet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>Die Tasten des aktuellen Layouts werden durch die aus %1 ersetzt. Dies kann nicht rückgängig gemacht werden.
+%n Taste passt nicht in dieses Layout und geht verloren.</numerusform>
+            <numerusform>Die Tasten des aktuellen Layouts werden durch die aus %1 ersetzt. Dies kann nicht rückgängig gemacht werden.
+%n Tasten passen nicht in dieses Layout und gehen verloren.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1670,7 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>Textbaustein</translation>
     </message>
     <message>

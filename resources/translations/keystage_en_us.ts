@@ -128,9 +128,13 @@
             <numerusform>%n steps</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>Left out: %1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n step. Left out: %1</numerusform>
+            <numerusform>%n steps. Left out: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -178,6 +182,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>The folder %1 cannot be made.</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>Starts %1 in the tray at login</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -199,6 +207,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>Title</translation>
     </message>
     <message>
@@ -228,18 +237,6 @@
         <translation>%1 backup %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>vertical</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>horizontal</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>Layout %1 keys %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>My Favorite</translation>
     </message>
@@ -254,6 +251,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 could not be written: %2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>Layout %1 keys vertical</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>Layout %1 keys horizontal</translation>
     </message>
 </context>
 <context>
@@ -339,6 +345,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>The list of emoji holds no emoji.</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>en</translation>
     </message>
 </context>
 <context>
@@ -515,6 +529,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>Folder</translation>
     </message>
     <message>
@@ -535,6 +550,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>Clear</translation>
     </message>
     <message>
@@ -589,6 +605,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>Hotkey</translation>
     </message>
     <message>
@@ -915,6 +932,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>Title</translation>
     </message>
 </context>
@@ -1153,6 +1171,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>Launch</translation>
     </message>
     <message>
@@ -1262,6 +1281,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>Clear</translation>
     </message>
     <message>
@@ -1282,6 +1302,13 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>The macro leaves %1 held down: it stays pressed after the macro has played.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key that cannot be typed left out.</numerusform>
+            <numerusform>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n keys that cannot be typed left out.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1367,13 +1394,6 @@ A sequence of characters defined by users. Text string can be text message, sour
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>%n key does not fit this layout and will be lost.</numerusform>
-            <numerusform>%n keys do not fit this layout and will be lost.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>About %1</source>
         <translation>About %1</translation>
@@ -1389,6 +1409,16 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 cannot quit now.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key does not fit this layout and will be lost.</numerusform>
+            <numerusform>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n keys do not fit this layout and will be lost.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1670,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>Text String</translation>
     </message>
     <message>

@@ -128,9 +128,13 @@
             <numerusform>%n étapes</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>Omis&#xa0;: %1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n étape. Omis&#xa0;: %1</numerusform>
+            <numerusform>%n étapes. Omis&#xa0;: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -178,6 +182,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>Le dossier %1 ne peut pas être créé.</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>Lance %1 dans la zone de notification à l’ouverture de session</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -199,6 +207,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>Titre</translation>
     </message>
     <message>
@@ -228,18 +237,6 @@
         <translation>Sauvegarde %1 %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>vertical</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>horizontal</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>Disposition %1 touches %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>Mes favoris</translation>
     </message>
@@ -254,6 +251,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 n’a pas pu être écrit&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>Disposition %1 touches verticale</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>Disposition %1 touches horizontale</translation>
     </message>
 </context>
 <context>
@@ -339,6 +345,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>La liste des émojis ne contient aucun émoji.</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>fr</translation>
     </message>
 </context>
 <context>
@@ -515,6 +529,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>Dossier</translation>
     </message>
     <message>
@@ -535,6 +550,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>Effacer</translation>
     </message>
     <message>
@@ -589,6 +605,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>Raccourci clavier</translation>
     </message>
     <message>
@@ -915,6 +932,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>Titre</translation>
     </message>
 </context>
@@ -1153,6 +1171,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>Lancer</translation>
     </message>
     <message>
@@ -1262,6 +1281,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>Effacer</translation>
     </message>
     <message>
@@ -1282,6 +1302,13 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>La macro laisse %1 enfoncée&#xa0;: elle reste appuyée après la lecture de la macro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>Enregistrement&#xa0;: appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touche impossible à taper a été omise.</numerusform>
+            <numerusform>Enregistrement&#xa0;: appuyez sur les touches de la macro. Échap seul ou Arrêter termine l’enregistrement. %n touches impossibles à taper ont été omises.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1367,13 +1394,6 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>Les touches de la disposition actuelle sont remplacées par celles de %1. Cette action est irréversible.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>%n touche ne tient pas dans cette disposition et sera perdue.</numerusform>
-            <numerusform>%n touches ne tiennent pas dans cette disposition et seront perdues.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>About %1</source>
         <translation>À propos de %1</translation>
@@ -1389,6 +1409,16 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 ne peut pas quitter maintenant.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>Les touches de la disposition actuelle sont remplacées par celles de %1. Cette action est irréversible.
+%n touche ne tient pas dans cette disposition et sera perdue.</numerusform>
+            <numerusform>Les touches de la disposition actuelle sont remplacées par celles de %1. Cette action est irréversible.
+%n touches ne tiennent pas dans cette disposition et seront perdues.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1670,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>Texte</translation>
     </message>
     <message>

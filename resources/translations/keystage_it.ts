@@ -128,9 +128,13 @@
             <numerusform>%n passi</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>Omessi: %1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n passo. Omessi: %1</numerusform>
+            <numerusform>%n passi. Omessi: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -178,6 +182,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>Impossibile creare la cartella %1.</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>Avvia %1 nell&apos;area di notifica all&apos;accesso</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -199,6 +207,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>Titolo</translation>
     </message>
     <message>
@@ -228,18 +237,6 @@
         <translation>Backup %1 %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>verticale</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>orizzontale</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>Layout %1 tasti %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>I miei preferiti</translation>
     </message>
@@ -254,6 +251,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>Impossibile scrivere %1: %2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>Layout %1 tasti verticale</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>Layout %1 tasti orizzontale</translation>
     </message>
 </context>
 <context>
@@ -339,6 +345,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>L&apos;elenco delle emoji non contiene emoji.</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>it</translation>
     </message>
 </context>
 <context>
@@ -515,6 +529,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>Cartella</translation>
     </message>
     <message>
@@ -535,6 +550,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>Cancella</translation>
     </message>
     <message>
@@ -589,6 +605,7 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>Scorciatoia</translation>
     </message>
     <message>
@@ -915,6 +932,7 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>Titolo</translation>
     </message>
 </context>
@@ -1153,6 +1171,7 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>Avvia</translation>
     </message>
     <message>
@@ -1262,6 +1281,7 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>Cancella</translation>
     </message>
     <message>
@@ -1282,6 +1302,13 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>La macro lascia %1 premuto: resta premuto dopo l&apos;esecuzione della macro.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>Registrazione: premi i tasti della macro. Esc da solo o Ferma termina la registrazione. %n tasto non digitabile omesso.</numerusform>
+            <numerusform>Registrazione: premi i tasti della macro. Esc da solo o Ferma termina la registrazione. %n tasti non digitabili omessi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1367,13 +1394,6 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>I tasti del layout attuale vengono sostituiti da quelli di %1. Questa azione non può essere annullata.</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>%n tasto non entra in questo layout e andrà perso.</numerusform>
-            <numerusform>%n tasti non entrano in questo layout e andranno persi.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>About %1</source>
         <translation>Informazioni su %1</translation>
@@ -1389,6 +1409,16 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 non può uscire ora.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>I tasti del layout attuale vengono sostituiti da quelli di %1. Questa azione non può essere annullata.
+%n tasto non entra in questo layout e andrà perso.</numerusform>
+            <numerusform>I tasti del layout attuale vengono sostituiti da quelli di %1. Questa azione non può essere annullata.
+%n tasti non entrano in questo layout e andranno persi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1640,6 +1670,7 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>Testo</translation>
     </message>
     <message>

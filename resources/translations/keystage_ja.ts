@@ -127,9 +127,12 @@
             <numerusform>%n ステップ</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>省いた文字: %1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n ステップ。省いた文字: %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -177,6 +180,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>フォルダー %1 を作成できません。</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>ログイン時に %1 をシステムトレイで起動します</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -198,6 +205,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>タイトル</translation>
     </message>
     <message>
@@ -227,18 +235,6 @@
         <translation>%1 バックアップ %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>縦</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>横</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>レイアウト %1 キー %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>お気に入り</translation>
     </message>
@@ -253,6 +249,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>%1 に書き込めませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>レイアウト %1 キー 縦</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>レイアウト %1 キー 横</translation>
     </message>
 </context>
 <context>
@@ -341,6 +346,14 @@
     </message>
 </context>
 <context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>ja</translation>
+    </message>
+</context>
+<context>
     <name>FaceEditor</name>
     <message>
         <source>Shown on the key</source>
@@ -387,7 +400,7 @@
     </message>
     <message>
         <source>Are you sure you want to reset all favorite items?</source>
-        <translation>すべてのお気に入りをリセットしてもよろしいですか?</translation>
+        <translation>すべてのお気に入りをリセットしてもよろしいですか？</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
@@ -414,7 +427,7 @@
     </message>
     <message>
         <source>You already have %1 item in &quot;My Favorite.&quot; If continues, %2 item will be lost. Are you sure you want to proceed?</source>
-        <translation>「お気に入り」にはすでに %1 個の項目があります。続行すると %2 個の項目が失われます。続行してもよろしいですか?</translation>
+        <translation>「お気に入り」にはすでに %1 個の項目があります。続行すると %2 個の項目が失われます。続行してもよろしいですか？</translation>
     </message>
 </context>
 <context>
@@ -514,6 +527,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>フォルダー</translation>
     </message>
     <message>
@@ -534,6 +548,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>クリア</translation>
     </message>
     <message>
@@ -588,6 +603,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>ホットキー</translation>
     </message>
     <message>
@@ -893,11 +909,11 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>If continues, some items may be lost. Are you sure you want to proceed?</source>
-        <translation>続行すると一部の項目が失われる可能性があります。続行してもよろしいですか?</translation>
+        <translation>続行すると一部の項目が失われる可能性があります。続行してもよろしいですか？</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this item?</source>
-        <translation>この項目を削除してもよろしいですか?</translation>
+        <translation>この項目を削除してもよろしいですか？</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
@@ -912,6 +928,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>タイトル</translation>
     </message>
 </context>
@@ -1137,7 +1154,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Restart %1 now?</source>
-        <translation>%1 を今すぐ再起動しますか?</translation>
+        <translation>%1 を今すぐ再起動しますか？</translation>
     </message>
     <message>
         <source>%1 is used from the next start.</source>
@@ -1148,6 +1165,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>起動</translation>
     </message>
     <message>
@@ -1172,7 +1190,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Use &quot;%1&quot; as the title?</source>
-        <translation>「%1」をタイトルとして使いますか?</translation>
+        <translation>「%1」をタイトルとして使いますか？</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1275,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>クリア</translation>
     </message>
     <message>
@@ -1276,6 +1295,12 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>このマクロは %1 を押したままにします。マクロの再生後も押されたままになります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>記録中: マクロのキーを押してください。Esc キーのみを押すか「停止」で記録を終了します。入力できないキー %n 個を省きました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1355,17 +1380,11 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Replace the keys of this layout?</source>
-        <translation>このレイアウトのキーを置き換えますか?</translation>
+        <translation>このレイアウトのキーを置き換えますか？</translation>
     </message>
     <message>
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>現在のレイアウトのキーは %1 のキーで置き換えられます。この操作は元に戻せません。</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>%n 個のキーはこのレイアウトに収まらないため失われます。</numerusform>
-        </translation>
     </message>
     <message>
         <source>About %1</source>
@@ -1382,6 +1401,14 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 は今は終了できません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>現在のレイアウトのキーは %1 のキーで置き換えられます。この操作は元に戻せません。
+%n 個のキーはこのレイアウトに収まらないため失われます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1407,12 +1434,12 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>QObject</name>
     <message>
         <source>Do you want to update firmware?</source>
-        <translation>ファームウェアを更新しますか?</translation>
+        <translation>ファームウェアを更新しますか？</translation>
     </message>
     <message>
         <source>Firmware version %1 is now available - current version %2 Would you like to update now?</source>
         <extracomment>%1 is the firmware this program carries, %2 the firmware on the keypad.</extracomment>
-        <translation>ファームウェアのバージョン %1 が利用可能です (現在のバージョン: %2)。今すぐ更新しますか?</translation>
+        <translation>ファームウェアのバージョン %1 が利用可能です (現在のバージョン: %2)。今すぐ更新しますか？</translation>
     </message>
     <message>
         <source>Choose an image</source>
@@ -1466,7 +1493,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Are you sure you want to reset the keys of every layout?</source>
-        <translation>すべてのレイアウトのキーをリセットしてもよろしいですか?</translation>
+        <translation>すべてのレイアウトのキーをリセットしてもよろしいですか？</translation>
     </message>
     <message>
         <source>You can&apos;t undo this action.</source>
@@ -1633,6 +1660,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>テキスト</translation>
     </message>
     <message>

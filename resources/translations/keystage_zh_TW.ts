@@ -127,9 +127,12 @@
             <numerusform>%n 個步驟</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Left out: %1</source>
-        <translation>已略過：%1</translation>
+    <message numerus="yes">
+        <source>%n step(s). Left out: %1</source>
+        <extracomment>%1 lists the characters that cannot be typed.</extracomment>
+        <translation>
+            <numerusform>%n 個步驟。已略過：%1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -177,6 +180,10 @@
         <source>The folder %1 cannot be made.</source>
         <translation>無法建立資料夾 %1。</translation>
     </message>
+    <message>
+        <source>Starts %1 in the tray at login</source>
+        <translation>登入時於系統匣中啟動 %1</translation>
+    </message>
 </context>
 <context>
     <name>BookmarkChooser</name>
@@ -198,6 +205,7 @@
     </message>
     <message>
         <source>Title</source>
+        <extracomment>Column header: the name of a browser bookmark.</extracomment>
         <translation>標題</translation>
     </message>
     <message>
@@ -227,18 +235,6 @@
         <translation>%1 備份 %2</translation>
     </message>
     <message>
-        <source>vertical</source>
-        <translation>直向</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>橫向</translation>
-    </message>
-    <message>
-        <source>Layout %1 keys %2</source>
-        <translation>配置 %1 鍵 %2</translation>
-    </message>
-    <message>
         <source>My Favorite</source>
         <translation>我的最愛</translation>
     </message>
@@ -253,6 +249,15 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>無法寫入 %1：%2</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys vertical</source>
+        <extracomment>A file name: the keypad&apos;s size, then its orientation.</extracomment>
+        <translation>配置 %1 鍵 直向</translation>
+    </message>
+    <message>
+        <source>Layout %1 keys horizontal</source>
+        <translation>配置 %1 鍵 橫向</translation>
     </message>
 </context>
 <context>
@@ -338,6 +343,14 @@
     <message>
         <source>The list of emoji holds no emoji.</source>
         <translation>表情符號清單中沒有任何表情符號。</translation>
+    </message>
+</context>
+<context>
+    <name>EmojiNames</name>
+    <message>
+        <source>en</source>
+        <extracomment>The Unicode CLDR locale whose emoji names suit this language: ja, zh_Hant, de, fr or it. Not shown.</extracomment>
+        <translation>zh_Hant</translation>
     </message>
 </context>
 <context>
@@ -514,6 +527,7 @@
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
+        <extracomment>Heading of the form of a folder key: a key that opens a page of more keys.</extracomment>
         <translation>資料夾</translation>
     </message>
     <message>
@@ -534,6 +548,7 @@
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Forgets the application that opens this folder.</extracomment>
         <translation>清除</translation>
     </message>
     <message>
@@ -588,6 +603,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>HotkeyForm</name>
     <message>
         <source>Hotkey</source>
+        <extracomment>Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.</extracomment>
         <translation>快捷鍵</translation>
     </message>
     <message>
@@ -912,6 +928,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>KeyItemForm</name>
     <message>
         <source>Title</source>
+        <extracomment>The text shown on the key of the keypad, under its icon.</extracomment>
         <translation>標題</translation>
     </message>
 </context>
@@ -1148,6 +1165,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>LaunchForm</name>
     <message>
         <source>Launch</source>
+        <extracomment>Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).</extracomment>
         <translation>啟動</translation>
     </message>
     <message>
@@ -1257,6 +1275,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>Removes every step of the macro.</extracomment>
         <translation>清除</translation>
     </message>
     <message>
@@ -1276,6 +1295,12 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>The macro leaves %1 held down: it stays pressed after the macro has played.</source>
         <translation>此巨集會讓 %1 保持按下：巨集播放完後它仍會維持按下狀態。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that cannot be typed left out.</source>
+        <translation>
+            <numerusform>錄製中：請按下巨集的按鍵。單獨按 Esc 或按「停止」即可結束錄製。已略過 %n 個無法輸入的按鍵。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1361,12 +1386,6 @@ A sequence of characters defined by users. Text string can be text message, sour
         <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.</source>
         <translation>目前配置的按鍵將被 %1 中的按鍵取代。此動作無法復原。</translation>
     </message>
-    <message numerus="yes">
-        <source>%n key(s) do not fit this layout and will be lost.</source>
-        <translation>
-            <numerusform>有 %n 個按鍵放不進此配置，將會遺失。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>About %1</source>
         <translation>關於 %1</translation>
@@ -1382,6 +1401,14 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 cannot quit now.</source>
         <translation>%1 目前無法結束。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
+%n key(s) do not fit this layout and will be lost.</source>
+        <translation>
+            <numerusform>目前配置的按鍵將被 %1 中的按鍵取代。此動作無法復原。
+有 %n 個按鍵放不進此配置，將會遺失。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1633,6 +1660,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>TextStringForm</name>
     <message>
         <source>Text String</source>
+        <extracomment>Heading of the form of a key that types a stored text.</extracomment>
         <translation>文字串</translation>
     </message>
     <message>

@@ -1,4 +1,6 @@
 #include "buttonlayoutconfig.h"
+#include "formarea.h"
+#include "hotkeyform.h"
 #include "imagecompare.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
@@ -13,6 +15,7 @@
 #include "virtualkeypad.h"
 #include "virtualkeypadwindow.h"
 
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QSet>
@@ -104,8 +107,8 @@ private slots:
         HidTransport::setInstance(nullptr);
     }
 
-    // The editor with a key's form and the preference dialog in each
-    // language, for a person to look over (renders/language_*.png).
+    // The editor, a key's form and the preference dialog in each language,
+    // for a person to look over (renders/language_*.png).
     void shouldShowTheEditorInEveryLanguage_data()
     {
         QTest::addColumn<int>("language");
@@ -132,6 +135,17 @@ private slots:
             const QImage editor = window.grab().toImage();
             QVERIFY(editor.save(prefix + QStringLiteral("editor.png")));
             QVERIFY2(distinctColours(editor) > 200, qPrintable(QString::number(distinctColours(editor))));
+            // The hotkey form with both features: the most texts of any form.
+            int key = 0;
+            while (key < window.keyGrid()->keyButtonCount() && window.keyItemModel()->keyItemAt(key))
+                ++key;
+            window.keyGrid()->createNewAction(KAT_HOTKEY, key);
+            window.keyGrid()->cancelPreviousAndThenSelectKeyButton(key);
+            auto* form = qobject_cast<HotkeyForm*>(window.formArea()->keyForm());
+            QVERIFY(form);
+            form->toggleBox()->setChecked(true);
+            QCoreApplication::processEvents();
+            QVERIFY(window.rightColumn()->grab().save(prefix + QStringLiteral("form.png")));
             PreferenceDialog* dialog = window.preferences()->open();
             QVERIFY(dialog && QTest::qWaitForWindowExposed(dialog));
             QVERIFY(dialog->grab().save(prefix + QStringLiteral("preferences.png")));

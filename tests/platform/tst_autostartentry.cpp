@@ -94,6 +94,32 @@ private slots:
         QCOMPARE(valueOf(AutostartEntry::desktopEntry(program), "Exec"), exec);
     }
 
+    // The desktop lists start-up programs in its own language, whatever
+    // language the program wrote the entry in.
+    void shouldCarryTheCommentInEveryLanguage_data()
+    {
+        QTest::addColumn<QByteArray>("key");
+        QTest::addColumn<QString>("comment");
+        QTest::newRow("English") << QByteArray("Comment") << QStringLiteral("Starts Keystage in the tray at login");
+        QTest::newRow("German") << QByteArray("Comment[de]") << QStringLiteral("Keystage");
+        QTest::newRow("French") << QByteArray("Comment[fr]") << QStringLiteral("Keystage");
+        QTest::newRow("Italian") << QByteArray("Comment[it]") << QStringLiteral("Keystage");
+        QTest::newRow("Japanese") << QByteArray("Comment[ja]") << QStringLiteral("Keystage");
+        QTest::newRow("Chinese") << QByteArray("Comment[zh_TW]") << QStringLiteral("Keystage");
+    }
+
+    void shouldCarryTheCommentInEveryLanguage()
+    {
+        QFETCH(QByteArray, key);
+        QFETCH(QString, comment);
+        const QByteArray entry = AutostartEntry::desktopEntry(QStringLiteral("/usr/bin/keystage"));
+        const QString value = QString::fromUtf8(valueOf(entry, key));
+        QVERIFY2(value.contains(comment), entry.constData());
+        // Translated, not the English text under another key.
+        if (key != "Comment")
+            QVERIFY2(!value.contains(QLatin1String("tray at login")), qPrintable(value));
+    }
+
     void shouldReadWhatTheFilesSay_data()
     {
         QTest::addColumn<QByteArray>("user");

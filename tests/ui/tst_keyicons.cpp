@@ -1,5 +1,6 @@
 #include "choosersearchfield.h"
 #include "emojicatalog.h"
+#include "emojinames.h"
 #include "faceeditor.h"
 #include "formarea.h"
 #include "formdialogs.h"
@@ -20,6 +21,9 @@
 #include "titlestyle.h"
 
 #include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QIcon>
 #include <QImageWriter>
 #include <QLabel>
@@ -153,6 +157,53 @@ private slots:
     {
         FormDialogs::setRunner({});
         tearDown();
+    }
+
+    // Emoji names in the user's language from CLDR annotations; what they
+    // do not name keeps its English name, and English keeps every name.
+    void shouldNameEmojiInTheUsersLanguage_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QStringList>("names");
+        QTest::newRow("Japanese") << QStringLiteral("ja")
+                                  << QStringList({"にっこり笑う", "笑顔", "scientist", "親指を立てる: 薄い肌色"});
+        QTest::newRow("English") << QStringLiteral("en")
+                                 << QStringList({"grinning face", "smiling face", "scientist", "thumbs up: light"});
+        QTest::newRow("no annotations") << QStringLiteral("it")
+                                        << QStringList(
+                                               {"grinning face", "smiling face", "scientist", "thumbs up: light"});
+    }
+
+    void shouldNameEmojiInTheUsersLanguage()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QStringList, names);
+        QTemporaryDir cldr;
+        auto write = [&cldr](const QString& file, const QByteArray& annotations) {
+            QDir().mkpath(QFileInfo(cldr.filePath(file)).absolutePath());
+            QFile out(cldr.filePath(file));
+            QVERIFY(out.open(QIODevice::WriteOnly));
+            out.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ldml><annotations>" + annotations +
+                      "</annotations></ldml>");
+        };
+        // The smiling face is named without its presentation selector, as
+        // the annotations do; the skin tone comes from the derived file.
+        write(QStringLiteral("annotations/ja.xml"), u8"<annotation cp=\"😀\">笑顔 | 顔</annotation>"
+                                                    u8"<annotation cp=\"😀\" type=\"tts\">にっこり笑う</annotation>"
+                                                    u8"<annotation cp=\"☺\" type=\"tts\">笑顔</annotation>");
+        write(QStringLiteral("annotationsDerived/ja.xml"),
+              u8"<annotation cp=\"👍🏻\" type=\"tts\">親指を立てる: 薄い肌色</annotation>");
+        EmojiList entries;
+        for (const char* const emoji : {u8"😀", u8"☺️", u8"🧑‍🔬", u8"👍🏻"})
+            entries << EmojiEntry{QString::fromUtf8(emoji), QString(), QString(), QString()};
+        const QStringList english = {"grinning face", "smiling face", "scientist", "thumbs up: light"};
+        for (int i = 0; i < entries.size(); ++i)
+            entries[i].name = english.at(i);
+        EmojiNames::translate(&entries, cldr.path(), locale);
+        QStringList named;
+        for (const EmojiEntry& entry : qAsConst(entries))
+            named << entry.name;
+        QCOMPARE(named, names);
     }
 
     void shouldReadFullyQualifiedEmojiAndCountWhatIsMalformed()

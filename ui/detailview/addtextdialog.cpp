@@ -1,5 +1,6 @@
 #include "addtextdialog.h"
 
+#include "dialogbuttons.h"
 #include "stepbuilder.h"
 
 #include <QDialogButtonBox>
@@ -26,6 +27,7 @@ AddTextDialog::AddTextDialog(QWidget* parent)
     m_summary->setWordWrap(true);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    DialogButtons::useOwnTexts(buttons);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("Add"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -56,6 +58,7 @@ void AddTextDialog::showSummary()
     const int count = StepBuilder::fromText(m_text->toPlainText(), &skipped).size();
     QString summary = tr("%n step(s)", nullptr, count);
     if (!skipped.isEmpty())
-        summary += QLatin1Char(' ') + tr("Left out: %1").arg(skipped);
+        //: %1 lists the characters that cannot be typed.
+        summary = tr("%n step(s). Left out: %1", nullptr, count).arg(skipped);
     m_summary->setText(summary);
 }

@@ -99,6 +99,7 @@ void BookmarkChooser::showResult()
         showBusy();
     m_bookmarks = m_cache->bookmarks();
     m_model->clear();
+    //: Column header: the name of a browser bookmark.
     m_model->setHorizontalHeaderLabels({tr("Title"), tr("Address")});
     QMap<QString, QStandardItem*> groups;
     for (int i = 0; i < m_bookmarks.size(); ++i) {

@@ -1,6 +1,7 @@
 #include "chooserdialog.h"
 
 #include "choosersearchfield.h"
+#include "dialogbuttons.h"
 #include "querycache.h"
 
 #include <QAbstractItemView>
@@ -62,6 +63,7 @@ void ChooserDialog::addStatusRow()
 void ChooserDialog::addButtons()
 {
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    DialogButtons::useOwnTexts(m_buttons);
     m_refresh = m_buttons->addButton(tr("Re&fresh"), QDialogButtonBox::ActionRole);
     m_refresh->setAutoDefault(false);
     for (QAbstractButton* button : m_buttons->buttons())

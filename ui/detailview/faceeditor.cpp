@@ -67,10 +67,15 @@ FaceEditor::FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabe
     m_icon->setAccessibleName(m_icon->toolTip());
     m_chooseIcon = namedButton(tr("Choose icon…"), this);
     m_defaultIcon = namedButton(tr("Use default icon"), this);
+    // The two buttons one above the other: side by side their names are
+    // wider than the form's column in some languages.
+    auto* iconButtons = new QVBoxLayout;
+    iconButtons->setSpacing(4);
+    iconButtons->addWidget(m_chooseIcon, 0, Qt::AlignLeft);
+    iconButtons->addWidget(m_defaultIcon, 0, Qt::AlignLeft);
     auto* iconRow = new QHBoxLayout;
-    iconRow->addWidget(m_icon);
-    iconRow->addWidget(m_chooseIcon);
-    iconRow->addWidget(m_defaultIcon);
+    iconRow->addWidget(m_icon, 0, Qt::AlignTop);
+    iconRow->addLayout(iconButtons);
     iconRow->addStretch(1);
     layout->addLayout(iconRow);
 

@@ -8,7 +8,7 @@
 #include "keyitemeditor.h"
 
 #include <QFileInfo>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -16,6 +16,7 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+//: Heading of the form of a folder key: a key that opens a page of more keys.
 FolderForm::FolderForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(editor, tr("Folder"), parent)
 {
     // Read only: the link names a program, which is picked, not typed.
@@ -28,15 +29,20 @@ FolderForm::FolderForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
 
     m_choose = new QPushButton(tr("Choose application…"), this);
     m_browse = new QPushButton(tr("Browse…"), this);
+    //: Forgets the application that opens this folder.
     m_clear = new QPushButton(tr("Clear"), this);
     m_clear->setToolTip(tr("The folder no longer opens by itself"));
-    auto* row = new QHBoxLayout;
+    // Two buttons a row: three side by side are wider than the form's
+    // column in some languages.
+    auto* rows = new QGridLayout;
+    int index = 0;
     for (QPushButton* button : {m_choose, m_browse, m_clear}) {
         button->setAccessibleName(button->text());
-        row->addWidget(button);
+        rows->addWidget(button, index / 2, index % 2);
+        ++index;
     }
-    row->addStretch(1);
-    body()->addLayout(row);
+    rows->setColumnStretch(2, 1);
+    body()->addLayout(rows);
     connect(m_choose, &QPushButton::clicked, this, &FolderForm::chooseApplication);
     connect(m_browse, &QPushButton::clicked, this, &FolderForm::browse);
     connect(m_clear, &QPushButton::clicked, this, [this] {

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+//: Heading of the form of a hotkey: a keypad key that types a keyboard shortcut.
 HotkeyForm::HotkeyForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(editor, tr("Hotkey"), parent)
 {
     m_recorder[0] = new HotkeyRecorder(this);

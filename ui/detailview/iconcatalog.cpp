@@ -1,5 +1,6 @@
 #include "iconcatalog.h"
 
+#include "emojinames.h"
 #include "iconthemeindex.h"
 #include "logging.h"
 
@@ -69,7 +70,13 @@ void IconCatalog::startEmojiLoad()
 {
     m_emojiPending = true;
     emit started(Emoji);
-    m_emojiWatcher.setFuture(QtConcurrent::run(&EmojiCatalog::load, m_emojiFile));
+    // The language is read here, on the GUI thread that installed it.
+    const QString locale = EmojiNames::currentLocale();
+    m_emojiWatcher.setFuture(QtConcurrent::run([file = m_emojiFile, locale] {
+        EmojiCatalog::Result result = EmojiCatalog::load(file);
+        EmojiNames::translate(&result.entries, EmojiNames::defaultDirectory(), locale);
+        return result;
+    }));
 }
 
 void IconCatalog::onThemeScanned()

@@ -1,6 +1,7 @@
 #include "iconchooser.h"
 
 #include "choosersearchfield.h"
+#include "dialogbuttons.h"
 #include "formdialogs.h"
 #include "iconcatalog.h"
 #include "icongridpage.h"
@@ -60,6 +61,7 @@ IconChooser::IconChooser(const KeyRenderInfo& face, QWidget* parent, IconCatalog
     layout->addLayout(previewRow);
 
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    DialogButtons::useOwnTexts(m_buttons);
     for (QAbstractButton* button : m_buttons->buttons())
         button->setAccessibleName(button->text().remove(QLatin1Char('&')));
     layout->addWidget(m_buttons);

@@ -1,5 +1,6 @@
 #include "insertkeydialog.h"
 
+#include "dialogbuttons.h"
 #include "hotkeyrecorder.h"
 
 #include <QDialogButtonBox>
@@ -16,6 +17,7 @@ InsertKeyDialog::InsertKeyDialog(QWidget* parent) : QDialog(parent), m_recorder(
     label->setBuddy(m_recorder);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    DialogButtons::useOwnTexts(buttons);
     QPushButton* insert = buttons->button(QDialogButtonBox::Ok);
     insert->setText(tr("Insert"));
     insert->setEnabled(false);

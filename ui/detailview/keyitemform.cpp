@@ -26,6 +26,7 @@ KeyItemForm::KeyItemForm(KeyItemEditor* editor, const QString& heading, QWidget*
     headingLabel->setObjectName(QStringLiteral("FormHeading"));
     m_body->addWidget(headingLabel);
 
+    //: The text shown on the key of the keypad, under its icon.
     m_face = new FaceEditor(editor, 0, tr("Title"), this);
     m_body->addWidget(m_face);
 }

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+//: Heading of the form of a Launch key: the action that starts a program or opens a file (a verb).
 LaunchForm::LaunchForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(editor, tr("Launch"), parent)
 {
     m_command = new QLineEdit(this);

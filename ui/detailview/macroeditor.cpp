@@ -53,6 +53,7 @@ MacroEditor::MacroEditor(QWidget* parent)
     m_deleteButton = addButton(tr("Delete"), &MacroEditor::deleteSteps);
     m_upButton = addButton(tr("Move up"), &MacroEditor::moveUp);
     m_downButton = addButton(tr("Move down"), &MacroEditor::moveDown);
+    //: Removes every step of the macro.
     m_clearButton = addButton(tr("Clear"), &MacroEditor::clearSteps);
 
     auto* fix = new QPushButton(tr("Add the missing releases"), m_warning);
@@ -69,11 +70,12 @@ MacroEditor::MacroEditor(QWidget* parent)
     recordRow->addWidget(m_recordButton);
     recordRow->addWidget(m_stopButton);
     recordRow->addWidget(m_status, 1);
-    // Two rows of three: one row of six does not fit the editor's column.
+    // Three rows of two: wider rows do not fit the editor's column in every
+    // language.
     auto* editRow = new QGridLayout;
     int index = 0;
     for (QPushButton* button : {insert, text, m_clearButton, m_deleteButton, m_upButton, m_downButton}) {
-        editRow->addWidget(button, index / 3, index % 3);
+        editRow->addWidget(button, index / 2, index % 2);
         ++index;
     }
     setTabOrder(text, m_clearButton);
@@ -283,13 +285,18 @@ void MacroEditor::updateControls()
     m_downButton->setEnabled(row >= 0 && row < m_model->rowCount() - 1);
     m_clearButton->setEnabled(m_model->rowCount() > 0);
 
+    // Whole sentences for each case: languages join sentences differently.
     QString status;
-    if (m_recording)
+    if (m_recording && m_skippedKeys > 0)
+        status = tr("Recording: press the keys of the macro. Esc alone or Stop ends the recording. %n key(s) that "
+                    "cannot be typed left out.",
+                    nullptr, m_skippedKeys);
+    else if (m_recording)
         status = tr("Recording: press the keys of the macro. Esc alone or Stop ends the recording.");
-    if (m_skippedKeys > 0)
-        status += QLatin1Char(' ') + tr("%n key(s) that cannot be typed left out.", nullptr, m_skippedKeys);
-    m_status->setText(status.trimmed());
-    m_status->setAccessibleName(status.trimmed());
+    else if (m_skippedKeys > 0)
+        status = tr("%n key(s) that cannot be typed left out.", nullptr, m_skippedKeys);
+    m_status->setText(status);
+    m_status->setAccessibleName(status);
 
     const QList<int> held = m_model->heldKeys();
     m_warning->setVisible(!held.isEmpty() && !m_recording);

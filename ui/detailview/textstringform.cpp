@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
+//: Heading of the form of a key that types a stored text.
 TextStringForm::TextStringForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(editor, tr("Text String"), parent)
 {
     m_text = new QPlainTextEdit(this);

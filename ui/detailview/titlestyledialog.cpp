@@ -1,5 +1,6 @@
 #include "titlestyledialog.h"
 
+#include "dialogbuttons.h"
 #include "keybuttonimage.h"
 #include "keyfacerenderer.h"
 
@@ -101,6 +102,7 @@ TitleStyleDialog::TitleStyleDialog(const KeyRenderInfo& face, const QSize& gridI
 
     auto* buttons =
         new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Reset, this);
+    DialogButtons::useOwnTexts(buttons);
     m_reset = buttons->button(QDialogButtonBox::Reset);
     for (QAbstractButton* button : buttons->buttons())
         button->setAccessibleName(plain(button->text()));

@@ -48,7 +48,7 @@ AboutPage::AboutPage(const QString& settingsFile, QWidget* parent) : PreferenceP
     layout->addWidget(PreferenceLook::section(tr("Files"), this));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
-    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(0, 1);
     const QString logs = Log::logDirectory();
     m_logFolder = addLocation(grid, tr("Log files"), logs, tr("Open log folder"), logs);
     m_settingsFolder = addLocation(grid, tr("Settings file"), settingsFile, tr("Open settings folder"),
@@ -85,9 +85,11 @@ QPushButton* AboutPage::addLocation(QGridLayout* grid, const QString& name, cons
         QDir().mkpath(folder);
         QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
     });
-    grid->addWidget(label, row, 0, Qt::AlignTop);
-    grid->addWidget(value, row, 1);
-    grid->addWidget(button, row, 2, Qt::AlignTop);
+    // The path takes a line of its own: it is long, and the names of the
+    // button and the place are long in some languages.
+    grid->addWidget(label, row, 0);
+    grid->addWidget(button, row, 1, Qt::AlignRight);
+    grid->addWidget(value, row + 1, 0, 1, 2);
     return button;
 }
 

@@ -45,8 +45,11 @@ QString ConfigurationBackup::folderName(const QDateTime& when)
 
 QString ConfigurationBackup::layoutFileName(int layout)
 {
-    const QString orientation = LayoutText::isVertical(layout) ? tr("vertical") : tr("horizontal");
-    return tr("Layout %1 keys %2").arg(KeypadTable::keyCount(layout)).arg(orientation) + QStringLiteral(".kslayout");
+    // One whole name per orientation: the word for it agrees with the rest.
+    //: A file name: the keypad's size, then its orientation.
+    const QString name =
+        LayoutText::isVertical(layout) ? tr("Layout %1 keys vertical") : tr("Layout %1 keys horizontal");
+    return name.arg(KeypadTable::keyCount(layout)) + QStringLiteral(".kslayout");
 }
 
 QString ConfigurationBackup::favoritesFileName()

@@ -8,6 +8,8 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -86,7 +88,17 @@ void PreferenceDialog::addPage(PreferencePage* page)
 {
     if (!logMsgWhenRetFail(page != nullptr, QStringLiteral("page is nullptr!!")))
         return;
-    m_stack->addWidget(page);
+    // A page longer than the dialog in some language scrolls rather than
+    // squeezing its wrapped texts.
+    auto* scroll = new QScrollArea(m_stack);
+    scroll->setObjectName(QStringLiteral("PreferencePageScroll"));
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(page);
+    // Sideways the page never scrolls: the dialog is as wide as its widest page.
+    scroll->setMinimumWidth(page->minimumSizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
+    m_stack->addWidget(scroll);
     auto* item = new QListWidgetItem(page->title(), m_list);
     item->setData(Qt::AccessibleTextRole, page->title());
     // Some languages name a page at more length than fits the usual width:
@@ -105,12 +117,13 @@ int PreferenceDialog::pageCount() const
 
 PreferencePage* PreferenceDialog::page(int index) const
 {
-    return qobject_cast<PreferencePage*>(m_stack->widget(index));
+    auto* scroll = qobject_cast<QScrollArea*>(m_stack->widget(index));
+    return scroll ? qobject_cast<PreferencePage*>(scroll->widget()) : nullptr;
 }
 
 PreferencePage* PreferenceDialog::currentPage() const
 {
-    return qobject_cast<PreferencePage*>(m_stack->currentWidget());
+    return page(m_stack->currentIndex());
 }
 
 void PreferenceDialog::setCurrentPage(int index)
