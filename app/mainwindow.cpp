@@ -342,21 +342,30 @@ void MainWindow::changeEvent(QEvent* event)
 // the last one names its fix, because nothing else would tell the user.
 void MainWindow::showKeypadStatus(int state)
 {
+    QString text;
+    QString look;
     switch (state) {
     case KeypadStatus::Connected:
-        if (m_virtualKeypad && m_virtualKeypad->isActive())
-            setKeypadStatus(tr("Virtual keypad connected"), QStringLiteral("virtual"));
-        else
-            setKeypadStatus(tr("Keypad connected"), QStringLiteral("connected"));
+        if (m_virtualKeypad && m_virtualKeypad->isActive()) {
+            text = tr("Virtual keypad connected");
+            look = QStringLiteral("virtual");
+        } else {
+            text = tr("Keypad connected");
+            look = QStringLiteral("connected");
+        }
         break;
     case KeypadStatus::NoPermission:
-        setKeypadStatus(tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText()),
-                        QStringLiteral("denied"));
+        text = tr("Keypad found, but no permission to use it. %1").arg(KeypadAccess::fixText());
+        look = QStringLiteral("denied");
         break;
     default:
-        setKeypadStatus(tr("No keypad connected"), QStringLiteral("absent"));
+        text = tr("No keypad connected");
+        look = QStringLiteral("absent");
         break;
     }
+    setKeypadStatus(text, look);
+    if (m_tray)
+        m_tray->showKeypadState(static_cast<KeypadStatus::State>(state), text);
 }
 
 // Tab goes round the editor's parts in the order the user sees them, not in
@@ -413,6 +422,7 @@ void MainWindow::setupTray()
     connect(m_tray, &TrayIcon::toggleRequested, this, &MainWindow::toggleFromTray);
     connect(m_tray, &TrayIcon::aboutRequested, this, &MainWindow::showAboutBox);
     connect(m_tray, &TrayIcon::quitRequested, this, &MainWindow::quitApplication);
+    showKeypadStatus(m_core->keypadStatus()->state());
     m_tray->setVisible(true);
     if (!TrayIcon::isTrayAvailable())
         LOG_MSG(QStringLiteral("no system tray: closing the window minimises it"));

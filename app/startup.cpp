@@ -3,6 +3,7 @@
 #include "iconthemeindex.h"
 #include "instancecheck.h"
 #include "ipctoken.h"
+#include "keystageappid.h"
 #include "keystageversion.h"
 #include "mainwindow.h"
 #include "metatypes.h"
@@ -54,6 +55,9 @@ void Startup::setIdentity()
     QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
     QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KEYSTAGE_VERSION));
+    // Docks group the windows under the desktop entry, and Wayland names the
+    // window by it.
+    QGuiApplication::setDesktopFileName(QStringLiteral(KEYSTAGE_APP_ID));
 }
 
 int Startup::checkedLanguageIndex(int stored)

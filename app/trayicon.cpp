@@ -22,8 +22,8 @@ TrayIcon::TrayIcon(QObject* parent) : QObject(parent)
     connect(m_about, &QAction::triggered, this, &TrayIcon::aboutRequested);
     connect(m_quit, &QAction::triggered, this, &TrayIcon::quitRequested);
 
-    m_icon = new QSystemTrayIcon(QIcon(QStringLiteral(":/image/icn_tray.png")), this);
-    m_icon->setToolTip(QCoreApplication::applicationName());
+    m_icon = new QSystemTrayIcon(this);
+    showKeypadState(KeypadStatus::Absent, QString());
     m_icon->setContextMenu(m_menu);
     connect(m_icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick)
@@ -75,4 +75,34 @@ void TrayIcon::setVirtualKeypadChecked(bool on)
 QAction* TrayIcon::quitAction() const
 {
     return m_quit;
+}
+
+QIcon TrayIcon::icon() const
+{
+    return m_icon->icon();
+}
+
+QString TrayIcon::toolTip() const
+{
+    return m_icon->toolTip();
+}
+
+QString TrayIcon::iconPath(KeypadStatus::State state)
+{
+    switch (state) {
+    case KeypadStatus::Connected:
+        return QStringLiteral(":/image/icn_tray.png");
+    case KeypadStatus::NoPermission:
+        return QStringLiteral(":/image/icn_tray_denied.png");
+    case KeypadStatus::Absent:
+        break;
+    }
+    return QStringLiteral(":/image/icn_tray_absent.png");
+}
+
+void TrayIcon::showKeypadState(KeypadStatus::State state, const QString& text)
+{
+    m_icon->setIcon(QIcon(iconPath(state)));
+    const QString name = QCoreApplication::applicationName();
+    m_icon->setToolTip(text.isEmpty() ? name : name + QLatin1Char('\n') + text);
 }

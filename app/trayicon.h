@@ -1,13 +1,17 @@
 #pragma once
 
+#include "keypadstatus.h"
+
+#include <QIcon>
 #include <QObject>
 
 class QAction;
 class QMenu;
 class QSystemTrayIcon;
 
-// The notification-area icon with the program's menu. Where the desktop has
-// no tray host, nothing is shown and the main window never hides itself.
+// The notification-area icon with the program's menu. Its picture and tool
+// tip tell the keypad's state. Where the desktop has no tray host, nothing is
+// shown and the main window never hides itself.
 class TrayIcon : public QObject
 {
     Q_OBJECT
@@ -24,6 +28,11 @@ public:
     QAction* virtualKeypadAction() const;
     QAction* settingsAction() const;
     QAction* quitAction() const;
+    QIcon icon() const;
+    QString toolTip() const;
+
+    // The picture for each keypad state.
+    static QString iconPath(KeypadStatus::State state);
 
 signals:
     void showRequested();
@@ -36,6 +45,8 @@ signals:
 public slots:
     // Shows the state without asking for it again.
     void setVirtualKeypadChecked(bool on);
+    // text: what the status line says about the keypad.
+    void showKeypadState(KeypadStatus::State state, const QString& text);
 
 private:
     QSystemTrayIcon* m_icon = nullptr;

@@ -5,9 +5,14 @@ set -euo pipefail
 ROOT=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 BUILD_DIR=${KEYSTAGE_BUILD_DIR:-$ROOT/build}
 
+# Without arguments: every package of scripts/debian-packages.txt.
 ensure_packages() {
     local wanted missing=()
-    wanted=$(grep -v '^[[:space:]]*#' "$ROOT/scripts/debian-packages.txt" | awk 'NF { print $1 }')
+    if [ $# -gt 0 ]; then
+        wanted="$*"
+    else
+        wanted=$(grep -v '^[[:space:]]*#' "$ROOT/scripts/debian-packages.txt" | awk 'NF { print $1 }')
+    fi
     for package in $wanted; do
         if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed'; then
             missing+=("$package")

@@ -1,5 +1,6 @@
 #include "autostartentry.h"
 
+#include "keystageappid.h"
 #include "logging.h"
 
 #include <QCoreApplication>
@@ -207,7 +208,7 @@ QByteArray AutostartEntry::desktopEntry(const QString& program)
     // Without the program (uninstalled) the desktop skips the entry.
     text += QStringLiteral("TryExec=%1\n").arg(escapedString(program));
     text += QStringLiteral("Exec=%1\n").arg(escapedString(exec));
-    text += QStringLiteral("Icon=keystage\n");
+    text += QStringLiteral("Icon=" KEYSTAGE_APP_ID "\n");
     text += QStringLiteral("Terminal=false\n");
     text += QStringLiteral("X-GNOME-Autostart-enabled=true\n");
     return text.toUtf8();
