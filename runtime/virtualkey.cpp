@@ -32,12 +32,17 @@ WindowSystem* windowSystem = nullptr;
 std::atomic<quint64> mainWindow{0};
 bool userTold = false;
 
-KeystrokeBackend* currentBackend()
+// Sets *xClientsOnly when this call made the choice and it was XTest on a
+// Wayland session, which the user hears of once.
+KeystrokeBackend* currentBackend(bool* xClientsOnly)
 {
     if (setBackendPointer)
         return setBackendPointer;
-    if (!chosenBackend)
-        chosenBackend = KeystrokeBackend::create();
+    if (!chosenBackend) {
+        KeystrokeBackend::Choice choice = KeystrokeBackend::create();
+        chosenBackend = std::move(choice.backend);
+        *xClientsOnly = choice.xClientsOnly;
+    }
     return chosenBackend.get();
 }
 
@@ -51,7 +56,15 @@ void tellUser()
 // a directly connected receiver may call back in).
 KeystrokeBackend* usableBackend(QMutexLocker& lock)
 {
-    KeystrokeBackend* backend = currentBackend();
+    bool xClientsOnly = false;
+    KeystrokeBackend* backend = currentBackend(&xClientsOnly);
+    if (xClientsOnly) {
+        // Unlocked: a receiver on this thread may show a modal message.
+        lock.unlock();
+        emit VirtualKey::instance()->keystrokesReachXOnly(KeystrokeBackend::xClientsOnlyText());
+        lock.relock();
+        backend = currentBackend(&xClientsOnly);
+    }
     if (backend->isUsable())
         return backend;
     const bool news = !userTold;
