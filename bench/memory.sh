@@ -29,6 +29,9 @@ trap cleanup EXIT
 # A copy under a name of its own: the single-instance rule counts processes
 # by program name, and other copies of keystage may run on this machine.
 cp "$program" "$workdir/keystage-membench"
+# Written back before it runs: pages of a fresh copy still waiting for the
+# disk count as dirty in smaps.
+sync "$workdir/keystage-membench"
 
 kib() { awk -v key="$1:" '$1 == key { print $2 }' "/proc/$2/smaps_rollup"; }
 
