@@ -118,9 +118,10 @@ void playSteps(KeystrokeBackend* backend, const QList<MarcoKeyItem>& steps)
 {
     for (const MarcoKeyItem& step : steps) {
         const int key = step.nativeKeyCode;
-        if (!logMsgWhenRetFail(VirtualKeyTable::contains(key),
-                               QStringLiteral("macro step with unknown virtual key %1 skipped!!").arg(key)))
+        if (!VirtualKeyTable::contains(key)) {
+            logMsgWhenRetFail(false, QStringLiteral("macro step with unknown virtual key %1 skipped!!").arg(key));
             continue;
+        }
         if (step.isPress)
             backend->keyDown(key);
         else
@@ -132,11 +133,14 @@ void playSteps(KeystrokeBackend* backend, const QList<MarcoKeyItem>& steps)
 
 } // namespace
 
+// On the way from a key press to its keystroke: failure messages are only
+// put together when something failed.
 void VirtualKey::sendKeyEvent(int nativeKey, bool win, bool alt, bool ctrl, bool shift)
 {
-    if (!logMsgWhenRetFail(VirtualKeyTable::contains(nativeKey),
-                           QStringLiteral("hotkey with unknown virtual key %1 not sent!!").arg(nativeKey)))
+    if (!VirtualKeyTable::contains(nativeKey)) {
+        logMsgWhenRetFail(false, QStringLiteral("hotkey with unknown virtual key %1 not sent!!").arg(nativeKey));
         return;
+    }
     QMutexLocker lock(&typingMutex);
     KeystrokeBackend* backend = usableBackend(lock);
     if (!backend)
