@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Memory of the tray agent: starts the built program on a private Xvfb server
-# with the simulated keypad, in the background as at login ("--runinbk"),
+# (with openbox, no tray host) with the simulated keypad, in the background as at login ("--runinbk"),
 # and reads /proc/PID/smaps_rollup after a while. Twice: never showing the
 # editor, and after the editor has been shown once and sent back.
 #   bench/memory.sh [build/app/keystage] [seconds, default 60]
@@ -15,7 +15,8 @@ command -v xdotool >/dev/null || { echo "memory.sh: needs xdotool" >&2; exit 2; 
 
 if [ -z "${KEYSTAGE_MEMORY_INNER:-}" ]; then
     export KEYSTAGE_MEMORY_INNER=1
-    exec "$here/../scripts/with-xvfb.sh" -- "$0" "$program" "$seconds"
+    # With a window manager: without one a minimised window stays on screen.
+    exec "$here/../scripts/with-xvfb.sh" --wm -- "$0" "$program" "$seconds"
 fi
 
 workdir=$(mktemp -d)
@@ -53,8 +54,10 @@ run() {
         env "${env[@]}" "$workdir/keystage-membench" >>"$home/out.log" 2>&1 || true
         sleep 3
         local window
+        # Back to the background as the close button sends it without a tray
+        # host (Xvfb has none): minimised.
         for window in $(xdotool search --onlyvisible --pid "$agent"); do
-            xdotool windowclose "$window" 2>/dev/null || true # the close button: back to the background
+            xdotool windowminimize "$window" 2>/dev/null || true
         done
     fi
     sleep "$seconds"
