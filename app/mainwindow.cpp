@@ -70,6 +70,8 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
     UserQuestions::setHandler(&Dialog::ask);
     connect(VirtualKey::instance(), &VirtualKey::keystrokesUnavailable, this,
             [this](const QString& fix) { tellUser(tr("Hotkeys and macros cannot type keys."), fix); });
+    connect(VirtualKey::instance(), &VirtualKey::keystrokesReachXOnly, this,
+            [this](const QString& fix) { tellUser(tr("Hotkeys and macros type into X applications only."), fix); });
 
     createCore();
     buildWindow();

@@ -94,6 +94,24 @@ void Startup::applyStyleSheet()
         qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
 }
 
+namespace {
+const char GlIntegrationVariable[] = "QT_XCB_GL_INTEGRATION";
+} // namespace
+
+bool Startup::switchOffOpenGl()
+{
+    if (qEnvironmentVariableIsSet(GlIntegrationVariable))
+        return false;
+    qputenv(GlIntegrationVariable, "none");
+    return true;
+}
+
+void Startup::forgetOpenGlSwitch(bool switchedOff)
+{
+    if (switchedOff)
+        qunsetenv(GlIntegrationVariable);
+}
+
 int Startup::run(int& argc, char** argv)
 {
     setIdentity();
@@ -101,6 +119,7 @@ int Startup::run(int& argc, char** argv)
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
 
+    const bool openGlSwitchedOff = switchOffOpenGl();
     MyApplication application(argc, argv);
     QThread::currentThread()->setObjectName(QStringLiteral("UI Thread"));
 
@@ -131,5 +150,7 @@ int Startup::run(int& argc, char** argv)
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.setAttribute(Qt::WA_TranslucentBackground);
     window.show();
+    // The xcb platform reads the switch when it makes its first window.
+    forgetOpenGlSwitch(openGlSwitchedOff);
     return application.exec();
 }

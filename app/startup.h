@@ -21,6 +21,16 @@ public:
     // The application's look: the style sheet compiled into the program.
     static void applyStyleSheet();
 
+    // Nothing here draws with OpenGL, yet Qt's xcb platform loads the GL
+    // driver at start (with Mesa's llvmpipe some 50 MB). Before the
+    // application object: switches the xcb GL integration off unless the
+    // user chose one in QT_XCB_GL_INTEGRATION; true when it did.
+    static bool switchOffOpenGl();
+    // After the first window is made (Qt reads the switch then, not when
+    // the application object is made): takes the switch back out of the
+    // environment, so programs that keys start do not inherit it.
+    static void forgetOpenGlSwitch(bool switchedOff);
+
 private:
     static void setIdentity();
 };

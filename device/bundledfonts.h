@@ -28,5 +28,6 @@ public:
 
 private:
     static bool registerFaces();
+    static int addFace(const QString& path);
     static bool isInstalled(const QString& family);
 };

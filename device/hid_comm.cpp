@@ -299,9 +299,10 @@ void Hid_Comm::handleKeyStates(const KEYBUTTON_DATA& keys)
         LOG_MSG(QStringLiteral("multipKeyPress"));
         return;
     }
-    LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(heldId));
     pressReported = true;
+    // Logged after the signal: the key action thread need not wait for it.
     emit keyPressed(heldId);
+    LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(heldId));
 }
 
 void Hid_Comm::pollVendorLibrary()
@@ -336,8 +337,8 @@ void Hid_Comm::pollVendorLibrary()
             pressSeen = true;
             if (!vendorKeyDown[key]) {
                 vendorKeyDown[key] = true;
-                LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(key + 1));
                 emit keyPressed(key + 1);
+                LOG_MSG(QStringLiteral("emit keyPressed: %1").arg(key + 1));
             }
         } else if (!down && vendorKeyDown[key]) {
             vendorKeyDown[key] = false;

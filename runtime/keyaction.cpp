@@ -8,6 +8,7 @@
 #include "keyitem.h"
 #include "keyitemmodel.h"
 #include "keypadtable.h"
+#include "keyrenderinfo.h"
 #include "logging.h"
 #include "objectregistry.h"
 
@@ -34,17 +35,22 @@ KeyItem* configuredItem(KeyItemModel* model, int button)
 }
 
 // Feedback goes to the screen of the button's own key. (The image reports
-// number keys from 0 on some models where key reports count from 1.) The face
-// is handed to the GUI thread to send, so the action starts at once instead
-// of after the protocol's pauses for one image.
-void showFace(const QImage& face, int layout, int button, bool pressedLook)
+// number keys from 0 on some models where key reports count from 1.) The
+// face is drawn and sent by the GUI thread, so a press starts its action at
+// once instead of after drawing and the protocol's pauses for one image. The
+// job is queued before the action runs: whatever the action changes on the
+// keypad (a folder's page) and the release's face are queued after it, so
+// the keypad shows them in order.
+void showFace(const KeyRenderInfo& face, int layout, int button, bool pressedLook)
 {
     auto* hid = COMPONENT(Hid_Comm, ComponentId::HidComm);
     if (!hid)
         return;
     const int imageKey = Hid_Comm::deviceKeyNumber(layout, button);
     QMetaObject::invokeMethod(
-        hid, [hid, imageKey, face, pressedLook] { hid->sendIcon(imageKey, face, pressedLook); }, Qt::QueuedConnection);
+        hid,
+        [hid, imageKey, face, pressedLook] { hid->sendIcon(imageKey, KeyFaceRenderer::render(face), pressedLook); },
+        Qt::QueuedConnection);
 }
 
 } // namespace
@@ -72,35 +78,41 @@ void KeyAction::setKeyEventFilter(KeyEventFilter* filter)
     m_filter.store(filter);
 }
 
+// Nothing but the lookup stands between the report and the action; the log
+// record is written after it.
 void KeyAction::onKeyPressed(int devKeyId)
 {
-    LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
     KeyEventFilter* filter = m_filter.load();
     if (filter && filter->takeKeyPress(devKeyId)) {
-        LOG_MSG(QStringLiteral("press taken before dispatch"));
+        LOG_MSG(QStringLiteral("devKeyId: %1, taken before dispatch").arg(devKeyId));
         return;
     }
     const int layout = currentLayout();
     if (!ButtonLayoutConfig::isValidLayout(layout)) {
+        LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
         LOG_MSG(QStringLiteral("layoutType out of range!!!"));
         return;
     }
     const int button = buttonIndex(layout, devKeyId);
     auto* model = COMPONENT(KeyItemModel, ComponentId::KeyItemModel);
-    KeyItem* item = nullptr;
-    QImage face;
+    KeyActionAbstr* action = nullptr;
+    KeyRenderInfo face;
     {
-        // The editor changes items under the model's lock: look and draw
-        // under it too. The action runs outside it, so a slow one never holds
-        // up the editor (an item outlives its removal by seconds).
+        // The editor changes items under the model's lock: look and copy the
+        // face under it too. The action runs outside it, so a slow one never
+        // holds up the editor (an item outlives its removal by seconds).
         QMutexLocker locker(model ? model->updateLock() : nullptr);
-        item = configuredItem(model, button);
-        if (!item)
-            return;
-        face = KeyFaceRenderer::render(item);
+        KeyItem* item = configuredItem(model, button);
+        if (item) {
+            action = item->currentAction();
+            face = item->render[item->cfIdx];
+        }
     }
-    showFace(face, layout, button, true);
-    item->currentAction()->doAction(0);
+    if (action) {
+        showFace(face, layout, button, true);
+        action->doAction(0);
+    }
+    LOG_MSG(QStringLiteral("devKeyId: %1").arg(devKeyId));
 }
 
 // A release shows the face again; a two-feature hotkey switches to its other
@@ -126,7 +138,7 @@ void KeyAction::onKeyRleased(int devKeyId)
     if (toggled)
         item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
     else if (item)
-        showFace(KeyFaceRenderer::render(item), layout, button, false);
+        showFace(item->render[item->cfIdx], layout, button, false);
     // Only a toggle changes the model. Its notification redraws the key on
     // the keypad and in the editor and saves the new slot; a plain release
     // neither redraws twice nor starts a save of the whole configuration.

@@ -32,12 +32,17 @@ WindowSystem* windowSystem = nullptr;
 std::atomic<quint64> mainWindow{0};
 bool userTold = false;
 
-KeystrokeBackend* currentBackend()
+// Sets *xClientsOnly when this call made the choice and it was XTest on a
+// Wayland session, which the user hears of once.
+KeystrokeBackend* currentBackend(bool* xClientsOnly)
 {
     if (setBackendPointer)
         return setBackendPointer;
-    if (!chosenBackend)
-        chosenBackend = KeystrokeBackend::create();
+    if (!chosenBackend) {
+        KeystrokeBackend::Choice choice = KeystrokeBackend::create();
+        chosenBackend = std::move(choice.backend);
+        *xClientsOnly = choice.xClientsOnly;
+    }
     return chosenBackend.get();
 }
 
@@ -51,7 +56,15 @@ void tellUser()
 // a directly connected receiver may call back in).
 KeystrokeBackend* usableBackend(QMutexLocker& lock)
 {
-    KeystrokeBackend* backend = currentBackend();
+    bool xClientsOnly = false;
+    KeystrokeBackend* backend = currentBackend(&xClientsOnly);
+    if (xClientsOnly) {
+        // Unlocked: a receiver on this thread may show a modal message.
+        lock.unlock();
+        emit VirtualKey::instance()->keystrokesReachXOnly(KeystrokeBackend::xClientsOnlyText());
+        lock.relock();
+        backend = currentBackend(&xClientsOnly);
+    }
     if (backend->isUsable())
         return backend;
     const bool news = !userTold;
@@ -105,9 +118,10 @@ void playSteps(KeystrokeBackend* backend, const QList<MarcoKeyItem>& steps)
 {
     for (const MarcoKeyItem& step : steps) {
         const int key = step.nativeKeyCode;
-        if (!logMsgWhenRetFail(VirtualKeyTable::contains(key),
-                               QStringLiteral("macro step with unknown virtual key %1 skipped!!").arg(key)))
+        if (!VirtualKeyTable::contains(key)) {
+            logMsgWhenRetFail(false, QStringLiteral("macro step with unknown virtual key %1 skipped!!").arg(key));
             continue;
+        }
         if (step.isPress)
             backend->keyDown(key);
         else
@@ -119,11 +133,14 @@ void playSteps(KeystrokeBackend* backend, const QList<MarcoKeyItem>& steps)
 
 } // namespace
 
+// On the way from a key press to its keystroke: failure messages are only
+// put together when something failed.
 void VirtualKey::sendKeyEvent(int nativeKey, bool win, bool alt, bool ctrl, bool shift)
 {
-    if (!logMsgWhenRetFail(VirtualKeyTable::contains(nativeKey),
-                           QStringLiteral("hotkey with unknown virtual key %1 not sent!!").arg(nativeKey)))
+    if (!VirtualKeyTable::contains(nativeKey)) {
+        logMsgWhenRetFail(false, QStringLiteral("hotkey with unknown virtual key %1 not sent!!").arg(nativeKey));
         return;
+    }
     QMutexLocker lock(&typingMutex);
     KeystrokeBackend* backend = usableBackend(lock);
     if (!backend)

@@ -59,6 +59,9 @@ public:
 signals:
     // The text says what to do about it, ready to show the user.
     void keystrokesUnavailable(const QString& message);
+    // Keys are typed, but on this Wayland session through XWayland, so only
+    // X applications receive them; emitted once, when the backend is chosen.
+    void keystrokesReachXOnly(const QString& message);
 
 private:
     VirtualKey() = default;

@@ -15,6 +15,29 @@ class KeystrokeBackend
     Q_DECLARE_TR_FUNCTIONS(KeystrokeBackend)
 
 public:
+    // What the choice of backend depends on, read from the environment by
+    // current() and set by hand in tests.
+    struct Session
+    {
+        QByteArray sessionType;    // XDG_SESSION_TYPE
+        QByteArray waylandDisplay; // WAYLAND_DISPLAY
+        QByteArray display;        // DISPLAY
+        QString qtPlatform;        // empty without a GUI application
+
+        static Session current();
+        // Wayland whatever Qt's platform: Qt 5 programs often run through
+        // XWayland, where XTest reaches X clients only.
+        bool isWayland() const;
+    };
+
+    struct Choice
+    {
+        std::unique_ptr<KeystrokeBackend> backend;
+        // XTest on a Wayland session: the user should be told that keys
+        // reach X applications only (see xClientsOnlyText()).
+        bool xClientsOnly = false;
+    };
+
     virtual ~KeystrokeBackend();
 
     // "xtest", "uinput", "recording".
@@ -31,18 +54,23 @@ public:
     virtual bool keyDown(int virtualKey) = 0;
     virtual bool keyUp(int virtualKey) = 0;
 
-    // The backend for this desktop: XTest first under X11, uinput first
-    // otherwise, the other one when the first is unusable. When neither is
-    // usable, the uinput one, which starts working once the user has been
-    // given access to /dev/uinput; both reasons are logged.
-    static std::unique_ptr<KeystrokeBackend> create();
+    // The backend for this desktop: uinput first on a Wayland session or
+    // without X, XTest first on an X11 session, the other one when the first
+    // is unusable. When neither is usable, the uinput one, which starts
+    // working once the user has been given access to /dev/uinput; both
+    // reasons are logged.
+    static Choice create();
+    static Choice choose(const Session& session, std::unique_ptr<KeystrokeBackend> uinput,
+                         std::unique_ptr<KeystrokeBackend> xtest);
 
-    // Whether to try XTest before uinput: on the xcb platform, or without a
-    // Qt platform that says otherwise when an X display but no Wayland
-    // display is set.
-    static bool prefersX11(const QString& qtPlatform, const QByteArray& display, const QByteArray& waylandDisplay);
+    // Whether to try XTest before uinput.
+    static bool prefersX11(const Session& session);
 
     // What the user can do when no backend is usable, as one sentence that
     // follows a subject like "Hotkeys and macros cannot type keys."
     static QString fixText();
+    // Why keys reach X applications only on this Wayland session and what
+    // the user can do about it, following a subject like "Hotkeys and macros
+    // type into X applications only."
+    static QString xClientsOnlyText();
 };

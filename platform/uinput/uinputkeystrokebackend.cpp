@@ -61,14 +61,16 @@ bool UinputKeystrokeBackend::ensureDevice()
 bool UinputKeystrokeBackend::sendKey(int virtualKey, bool down)
 {
     const quint16 code = VirtualKeyTable::evdevCode(virtualKey);
-    if (!logMsgWhenRetFail(code != 0, QStringLiteral("no evdev key for virtual key 0x%1!!").arg(virtualKey, 0, 16)))
-        return false;
+    // Messages are put together only on failure: this is the keystroke's path.
+    if (code == 0)
+        return logMsgWhenRetFail(false, QStringLiteral("no evdev key for virtual key 0x%1!!").arg(virtualKey, 0, 16));
     QMutexLocker lock(&m_mutex);
     const bool wasCreated = m_created;
     if (!ensureDevice())
         return false;
     if (!wasCreated)
         QThread::msleep(SettleMs);
-    return logMsgWhenRetFail(m_device->writeKey(code, down),
-                             QStringLiteral("uinput write of key %1 failed!!").arg(code));
+    if (!m_device->writeKey(code, down))
+        return logMsgWhenRetFail(false, QStringLiteral("uinput write of key %1 failed!!").arg(code));
+    return true;
 }

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QMutex>
 #include <QWindow>
 #include <QX11Info>
 
@@ -14,14 +16,24 @@
 
 namespace {
 
+// Atoms live as long as the X server, so each is asked for once: a
+// keystroke reads the foreground window's title, and every round trip saved
+// there reaches the keystroke sooner. One connection per process (Qt's).
 xcb_atom_t internAtom(xcb_connection_t* connection, const char* name)
 {
+    static QMutex cacheMutex;
+    static QHash<QByteArray, xcb_atom_t> cache;
+    QMutexLocker locker(&cacheMutex);
+    const auto cached = cache.constFind(QByteArray::fromRawData(name, int(std::strlen(name))));
+    if (cached != cache.constEnd())
+        return cached.value();
     xcb_intern_atom_cookie_t cookie = xcb_intern_atom(connection, 0, uint16_t(std::strlen(name)), name);
     xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(connection, cookie, nullptr);
     if (!reply)
         return XCB_ATOM_NONE;
     const xcb_atom_t atom = reply->atom;
     std::free(reply);
+    cache.insert(QByteArray(name), atom);
     return atom;
 }
 

@@ -68,17 +68,18 @@ bool XTestKeystrokeBackend::ensureDisplay()
 bool XTestKeystrokeBackend::sendKey(int virtualKey, bool down)
 {
     const quint32 keysym = VirtualKeyTable::keysym(virtualKey);
-    if (!logMsgWhenRetFail(keysym != 0, QStringLiteral("no keysym for virtual key 0x%1!!").arg(virtualKey, 0, 16)))
-        return false;
+    // Messages are put together only on failure: this is the keystroke's path.
+    if (keysym == 0)
+        return logMsgWhenRetFail(false, QStringLiteral("no keysym for virtual key 0x%1!!").arg(virtualKey, 0, 16));
     QMutexLocker lock(&m_mutex);
-    if (!logMsgWhenRetFail(ensureDisplay(), QStringLiteral("XTest unusable: %1!!").arg(m_reason)))
-        return false;
+    if (!ensureDisplay())
+        return logMsgWhenRetFail(false, QStringLiteral("XTest unusable: %1!!").arg(m_reason));
     readMappingChanges();
     quint8 keycode = down ? 0 : m_pressed.take(virtualKey);
     if (keycode == 0)
         keycode = keycodeFor(keysym);
-    if (!logMsgWhenRetFail(keycode != 0, QStringLiteral("no keycode for keysym 0x%1!!").arg(keysym, 0, 16)))
-        return false;
+    if (keycode == 0)
+        return logMsgWhenRetFail(false, QStringLiteral("no keycode for keysym 0x%1!!").arg(keysym, 0, 16));
     if (down)
         m_pressed.insert(virtualKey, keycode);
     XTestFakeKeyEvent(m_display, keycode, down ? True : False, CurrentTime);

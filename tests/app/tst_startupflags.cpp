@@ -12,6 +12,44 @@ class StartupFlagsTest : public QObject
     Q_OBJECT
 
 private slots:
+    // The user's own choice stands; ours lasts only while Qt starts.
+    void shouldSwitchOffOpenGlOnlyUnlessTheUserChose_data()
+    {
+        QTest::addColumn<QByteArray>("userValue"); // null: not set
+        QTest::addColumn<QByteArray>("whileStarting");
+        QTest::newRow("not set") << QByteArray() << QByteArray("none");
+        QTest::newRow("user wants GLX") << QByteArray("xcb_glx") << QByteArray("xcb_glx");
+        QTest::newRow("set but empty") << QByteArray("") << QByteArray("");
+    }
+
+    void shouldSwitchOffOpenGlOnlyUnlessTheUserChose()
+    {
+        QFETCH(QByteArray, userValue);
+        QFETCH(QByteArray, whileStarting);
+        const QByteArray saved = qgetenv("QT_XCB_GL_INTEGRATION");
+        const bool wasSet = qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION");
+        if (userValue.isNull())
+            qunsetenv("QT_XCB_GL_INTEGRATION");
+        else
+            qputenv("QT_XCB_GL_INTEGRATION", userValue);
+
+        const bool switchedOff = Startup::switchOffOpenGl();
+        const bool setWhileStarting = qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION");
+        const QByteArray valueWhileStarting = qgetenv("QT_XCB_GL_INTEGRATION");
+        Startup::forgetOpenGlSwitch(switchedOff);
+        const bool setAfter = qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION");
+        const QByteArray valueAfter = qgetenv("QT_XCB_GL_INTEGRATION");
+        if (wasSet)
+            qputenv("QT_XCB_GL_INTEGRATION", saved);
+        else
+            qunsetenv("QT_XCB_GL_INTEGRATION");
+
+        QVERIFY(setWhileStarting);
+        QCOMPARE(valueWhileStarting, whileStarting);
+        QCOMPARE(setAfter, !userValue.isNull());
+        QCOMPARE(valueAfter, userValue.isNull() ? QByteArray() : userValue);
+    }
+
     void shouldExamineOnlyTheFirstArgument_data()
     {
         QTest::addColumn<QStringList>("arguments");

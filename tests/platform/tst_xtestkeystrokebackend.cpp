@@ -1,6 +1,7 @@
 // Runs on its own Xvfb server without a window manager (see CMakeLists.txt).
 #include "logcapture.h"
 #include "testmain.h"
+#include "uinputkeystrokebackend.h"
 #include "virtualkeytable.h"
 #include "xkeyobserver.h"
 #include "xtestkeystrokebackend.h"
@@ -26,7 +27,13 @@ private slots:
         XTestKeystrokeBackend backend;
         QVERIFY(backend.isUsable());
         QVERIFY(backend.unusableReason().isEmpty());
-        QCOMPARE(KeystrokeBackend::create()->name(), QStringLiteral("xtest"));
+        KeystrokeBackend::Session session = KeystrokeBackend::Session::current();
+        session.sessionType = "x11";
+        session.waylandDisplay.clear();
+        QCOMPARE(KeystrokeBackend::choose(session, std::make_unique<UinputKeystrokeBackend>(),
+                                          std::make_unique<XTestKeystrokeBackend>())
+                     .backend->name(),
+                 QStringLiteral("xtest"));
     }
 
     void shouldBeUnusableWithoutAnXServer()

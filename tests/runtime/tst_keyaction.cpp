@@ -3,6 +3,7 @@
 #include "ka_folder.h"
 #include "ka_hotkey.h"
 #include "keyaction.h"
+#include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
 #include "keypadfixture.h"
@@ -12,6 +13,9 @@
 #include "settings.h"
 #include "simulatedkeypad.h"
 #include "testmain.h"
+
+#include <QDeadlineTimer>
+#include <QPixmap>
 
 #include <memory>
 
@@ -40,20 +44,58 @@ private slots:
         fx.tearDown();
     }
 
-    void shouldPerformTheActionAndShowThePressedFace()
+    // Every press shows the pressed look and every release the full face
+    // again, in that order on the keypad, however quickly they follow.
+    void shouldShowThePressedFaceThenTheFullFaceForEveryClick_data()
     {
+        QTest::addColumn<int>("clicks");
+        QTest::newRow("one click") << 1;
+        QTest::newRow("clicks in a row") << 4;
+    }
+
+    void shouldShowThePressedFaceThenTheFullFaceForEveryClick()
+    {
+        QFETCH(int, clicks);
         KA_HotKey* hotkey = hotkeyAt(4, 0x41);
         hotkey->keyCtrl = true;
+        KeyRenderInfo& face = fx.model->keyItemAt(4)->render[0];
+        face.hintFlags = 0; // no title: the image fills the face
+        QImage red(KeyFaceRenderer::FaceSize, KeyFaceRenderer::FaceSize, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        face.userImg = QPixmap::fromImage(red);
         const int imageKey = Hid_Comm::deviceKeyNumber(H_Key_15, 4);
-        fx.keypad->pressKey(0); // key id 1 is button 4 of this keypad
-        QTRY_COMPARE(services->calls(), QStringList{"key 65 ctrl"});
-        QTRY_VERIFY(!fx.keypad->keyImage(imageKey).isNull());
-        QCOMPARE(fx.keypad->keyImage(imageKey).pixelColor(3, 3), QColor(Qt::black)); // shrunk onto black
+        // Near the edge: red on the full face, black around the shrunk one.
+        QStringList looks;
+        connect(fx.keypad.get(), &SimulatedKeypad::keyImageChanged, this, [&](int key) {
+            if (key == imageKey)
+                looks << (fx.keypad->keyImage(key).pixelColor(8, 36).red() > 128 ? "full" : "pressed");
+        });
 
+        QStringList expected, performed;
+        for (int i = 0; i < clicks; ++i) {
+            click(0); // key id 1 is button 4 of this keypad
+            expected << "pressed"
+                     << "full";
+            performed << "key 65 ctrl";
+        }
+        QTRY_COMPARE(looks, expected);
+        QCOMPARE(services->calls(), performed); // nothing is performed on release
+        disconnect(fx.keypad.get(), &SimulatedKeypad::keyImageChanged, this, nullptr);
+    }
+
+    // The face is drawn and sent by the GUI thread; the action must not wait
+    // for it, so a busy GUI thread does not hold the keystroke up.
+    void shouldActWhileTheGuiThreadIsBusy()
+    {
+        hotkeyAt(4, 0x41);
         fx.keypad->clearReports();
-        fx.keypad->releaseKey(0);
+        fx.keypad->pressKey(0);
+        QDeadlineTimer hangGuard(30000);
+        while (services->calls().isEmpty() && !hangGuard.hasExpired())
+            QThread::msleep(5); // no events: this thread stands for a busy GUI
+        QCOMPARE(services->calls(), QStringList{"key 65"});
+        QCOMPARE(fx.keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage), 0);
         QTRY_VERIFY(fx.keypad->reportCount(SimulatedKeypad::ReportKind::ShowImage) >= 1);
-        QCOMPARE(services->calls().size(), 1); // nothing is performed on release
     }
 
     void shouldToggleATwoFeatureHotkeyOnRelease()

@@ -5,7 +5,10 @@
 #include "xkeyobserver.h"
 #include "xtestkeystrokebackend.h"
 
+#include <QSignalSpy>
+
 #include <X11/keysym.h>
+#include <unistd.h>
 
 namespace {
 
@@ -82,6 +85,30 @@ private slots:
         // "1" went down with Shift held and came up after Shift was released.
         QVERIFY(events.at(3).state & XKeyObserver::shiftMask());
         QVERIFY(!(events.at(5).state & XKeyObserver::shiftMask()));
+    }
+
+    // On a Wayland session without /dev/uinput keys still go out through
+    // XWayland, and the user hears once that only X applications get them.
+    void shouldTellOnceThatWaylandFallsBackToXApplications()
+    {
+        if (::access("/dev/uinput", W_OK) == 0)
+            QSKIP("this machine lets us write /dev/uinput, so uinput would be chosen");
+        VirtualKey::setBackend(nullptr); // the process's own choice from here on
+        qputenv("XDG_SESSION_TYPE", "wayland");
+        qputenv("WAYLAND_DISPLAY", "wayland-keystage-test");
+        QSignalSpy limited(VirtualKey::instance(), &VirtualKey::keystrokesReachXOnly);
+        QSignalSpy unavailable(VirtualKey::instance(), &VirtualKey::keystrokesUnavailable);
+
+        QVERIFY(VirtualKey::checkAvailable());
+        VirtualKey::sendKeyEvent(0x41, false, false, false, false);
+        QVERIFY(VirtualKey::checkAvailable());
+
+        QCOMPARE(limited.size(), 1);
+        QCOMPARE(limited.at(0).at(0).toString(), KeystrokeBackend::xClientsOnlyText());
+        QCOMPARE(unavailable.size(), 0);
+        const QVector<XKeyObserver::Event> events = m_observer->waitForEvents(2);
+        QCOMPARE(events.size(), 2);
+        QCOMPARE(events.at(0).keycode, m_observer->keycodeOf(XK_a));
     }
 
 private:
