@@ -156,15 +156,16 @@ void drawRates(QPainter& painter, const KeyRenderInfo& face, const SystemReading
 QString clockText(const QDateTime& now, const QLocale& locale, QString* marker)
 {
     QString format = locale.timeFormat(QLocale::ShortFormat);
-    const bool twelveHours = format.contains(QLatin1Char('a'), Qt::CaseInsensitive);
-    if (twelveHours) {
-        format.remove(QLatin1String("ap"), Qt::CaseInsensitive);
-        format.remove(QLatin1Char('a'), Qt::CaseInsensitive);
-        *marker = now.time().hour() < 12 ? locale.amText() : locale.pmText();
-    }
     // Seconds never show: the clock changes once a minute.
     format.remove(QLatin1String(":ss")).remove(QLatin1String(".ss"));
-    return locale.toString(now.time(), format.trimmed());
+    QString text = locale.toString(now.time(), format);
+    // "h" means 12 hours only beside the marker, so it is formatted with it
+    // and taken out afterwards.
+    if (format.contains(QLatin1Char('a'), Qt::CaseInsensitive)) {
+        *marker = now.time().hour() < 12 ? locale.amText() : locale.pmText();
+        text.remove(*marker, Qt::CaseInsensitive);
+    }
+    return text.simplified();
 }
 
 } // namespace
