@@ -134,6 +134,9 @@ void AgentCore::createLiveFaces()
 {
     m_sysMonitor = std::make_unique<SysMonitor>();
     m_liveFaces = std::make_unique<LiveFaceUpdater>(m_keyItemModel, m_hidComm.get(), m_sysMonitor.get(), m_dimmer);
+    LiveFaceUpdater* liveFaces = m_liveFaces.get();
+    connect(m_sleepMonitor, &SleepMonitor::aboutToSleep, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(true); });
+    connect(m_sleepMonitor, &SleepMonitor::resumed, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(false); });
 }
 
 void AgentCore::stop()

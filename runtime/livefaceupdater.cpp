@@ -43,8 +43,7 @@ LiveFaceUpdater::LiveFaceUpdater(KeyItemModel* model, Hid_Comm* hid, SysMonitor*
     connect(m_model, &KeyItemModel::updateContent, this, &LiveFaceUpdater::rescan, Qt::QueuedConnection);
     if (m_hid) {
         m_keypadOpen = m_hid->isOpened();
-        connect(m_hid, &Hid_Comm::KeyboardStatusChange, this, &LiveFaceUpdater::onKeypadStatus,
-                Qt::QueuedConnection);
+        connect(m_hid, &Hid_Comm::KeyboardStatusChange, this, &LiveFaceUpdater::onKeypadStatus, Qt::QueuedConnection);
     }
     if (m_dimmer) {
         connect(m_dimmer, &KeypadDimmer::backlightChanged, this, [this] {
@@ -73,6 +72,15 @@ void LiveFaceUpdater::setEditorVisible(bool visible)
     updateDemand();
 }
 
+void LiveFaceUpdater::setSystemAsleep(bool asleep)
+{
+    if (m_asleep == asleep)
+        return;
+    m_asleep = asleep;
+    sendPending();
+    updateDemand();
+}
+
 void LiveFaceUpdater::onKeypadStatus(bool connected)
 {
     m_keypadOpen = connected;
@@ -82,7 +90,7 @@ void LiveFaceUpdater::onKeypadStatus(bool connected)
 
 bool LiveFaceUpdater::keypadLit() const
 {
-    if (!m_hid || !m_keypadOpen)
+    if (!m_hid || !m_keypadOpen || m_asleep)
         return false;
     return !m_dimmer || (!m_dimmer->isDimmed() && m_dimmer->level() > 0);
 }
@@ -156,7 +164,7 @@ void LiveFaceUpdater::sendPending()
 
 void LiveFaceUpdater::updateDemand()
 {
-    const bool seen = keypadLit() || m_editorVisible;
+    const bool seen = !m_asleep && (keypadLit() || m_editorVisible);
     bool sampled = false;
     bool timed = false;
     for (const LiveKey& key : qAsConst(m_live)) {

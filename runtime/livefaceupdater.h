@@ -21,8 +21,8 @@ class SysMonitor;
 // - clock and date keys are redrawn once a minute, on the minute;
 // - after each sample or minute only the keys whose face changed are sent,
 //   each as one key's image, never the whole page; while the keypad is
-//   dimmed, dark or away nothing is sent, and what changed meanwhile is sent
-//   when it lights up again.
+//   dimmed, dark or away, or the computer asleep, nothing is sent, and what
+//   changed meanwhile is sent when it lights up again.
 // faceChanged tells the editor's grid which keys to redraw.
 //
 // Lives on the GUI thread. The model's notices (connected queued, since the
@@ -45,6 +45,9 @@ public:
 
 public slots:
     void setEditorVisible(bool visible);
+    // The computer going to sleep and back: nothing is sampled or sent
+    // meanwhile.
+    void setSystemAsleep(bool asleep);
     // Looks at the current page again: which keys are live, whether the
     // sampler and the clock must run. The model's notices call it with the
     // item that changed, null for the whole page; the faces the ordinary
@@ -77,6 +80,7 @@ private:
     QTimer* m_minute = nullptr;
     bool m_editorVisible = false;
     bool m_keypadOpen = false;
+    bool m_asleep = false;
 
     QList<LiveKey> m_live;
     // By key index: the face last drawn, and the keys the keypad still has

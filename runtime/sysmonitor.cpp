@@ -83,7 +83,9 @@ void SysMonitor::setActive(bool active)
     LOG_MSG(active ? QStringLiteral("sampling system usage") : QStringLiteral("system usage sampler idle"));
     Worker* worker = m_worker;
     if (active)
-        QMetaObject::invokeMethod(worker, [worker] { worker->start(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            worker, [worker] { worker->start(); }, Qt::QueuedConnection);
     else
-        QMetaObject::invokeMethod(worker, [worker] { worker->stop(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            worker, [worker] { worker->stop(); }, Qt::QueuedConnection);
 }

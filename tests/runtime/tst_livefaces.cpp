@@ -1,9 +1,9 @@
 #include "facehints.h"
+#include "ka_folder.h"
 #include "keyfacerenderer.h"
 #include "keyitem.h"
 #include "keypaddimmer.h"
 #include "keypadfixture.h"
-#include "ka_folder.h"
 #include "livefacepainter.h"
 #include "livefaceupdater.h"
 #include "sysmonitor.h"
@@ -163,9 +163,9 @@ private slots:
         QCOMPARE(redrawn.size(), sent.size());
         for (int keyIdx : sent) {
             const int deviceKey = Hid_Comm::deviceKeyNumber(H_Key_15, keyIdx);
-            QCOMPARE(asShown(fx.keypad->keyImage(deviceKey)),
-                     asShown(Hid_Comm::orientForLayout(KeyFaceRenderer::render(fx.model->keyItemAt(keyIdx)),
-                                                       H_Key_15)));
+            QCOMPARE(
+                asShown(fx.keypad->keyImage(deviceKey)),
+                asShown(Hid_Comm::orientForLayout(KeyFaceRenderer::render(fx.model->keyItemAt(keyIdx)), H_Key_15)));
         }
         sendFigures(next); // the same again: nothing more
         QCOMPARE(fx.keypad->reportCount(Kind::ShowImage), sent.size());
@@ -259,8 +259,10 @@ private slots:
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("clock");
-        QTest::newRow("24 hours") << "de_DE" << "14:05";
-        QTest::newRow("12 hours") << "en_US" << "2:05 PM";
+        QTest::newRow("24 hours") << "de_DE"
+                                  << "14:05";
+        QTest::newRow("12 hours") << "en_US"
+                                  << "2:05 PM";
     }
 
     void shouldShowTheTimeAsTheLocaleWritesIt()

@@ -31,7 +31,8 @@ QByteArray netDev(const QList<std::tuple<QString, quint64, quint64>>& interfaces
                       " face |bytes    packets errs drop fifo frame compressed multicast|bytes    packets errs "
                       "drop fifo colls carrier compressed\n";
     for (const auto& [name, received, sent] : interfaces)
-        text += QStringLiteral("%1: %2 10 0 0 0 0 0 0 %3 20 0 0 0 0 0 0\n").arg(name).arg(received).arg(sent).toLatin1();
+        text +=
+            QStringLiteral("%1: %2 10 0 0 0 0 0 0 %3 20 0 0 0 0 0 0\n").arg(name).arg(received).arg(sent).toLatin1();
     return text;
 }
 
@@ -59,16 +60,14 @@ private slots:
         QTest::newRow("busy a quarter, 2 s of traffic without loopback")
             << stat(100, 100, 800, 0) << stat(150, 100, 950, 0) << meminfo(8000, 2000) << eth1
             << netDev({{"lo", 900000, 900000}, {"eth0", 5000, 2500}}) << 25.0 << 75.0 << 2000.0 << 250.0;
-        QTest::newRow("waiting for the disk is idle")
-            << stat(0, 0, 0, 0) << stat(10, 10, 40, 40) << meminfo(1000, 1000) << eth1 << eth1 << 20.0 << 0.0
-            << 0.0 << 0.0;
+        QTest::newRow("waiting for the disk is idle") << stat(0, 0, 0, 0) << stat(10, 10, 40, 40) << meminfo(1000, 1000)
+                                                      << eth1 << eth1 << 20.0 << 0.0 << 0.0 << 0.0;
         QTest::newRow("all interfaces summed")
             << stat(0, 0, 0, 0) << stat(100, 0, 0, 0) << meminfo(1000, 0) << netDev({{"eth0", 0, 0}, {"wlan0", 0, 0}})
             << netDev({{"eth0", 1000, 0}, {"wlan0", 3000, 2000}}) << 100.0 << 100.0 << 2000.0 << 1000.0;
         QTest::newRow("wrapped counters are no traffic, never negative")
             << stat(500, 0, 500, 0) << stat(400, 0, 700, 0) << meminfo(1000, 500)
-            << netDev({{"eth0", 4294967000u, 4294967000u}}) << netDev({{"eth0", 100, 50}}) << 0.0 << 50.0 << 0.0
-            << 0.0;
+            << netDev({{"eth0", 4294967000u, 4294967000u}}) << netDev({{"eth0", 100, 50}}) << 0.0 << 50.0 << 0.0 << 0.0;
         QTest::newRow("a vanished and a new interface count nothing")
             << stat(0, 0, 0, 0) << stat(1, 0, 3, 0) << meminfo(1000, 250) << netDev({{"eth0", 9000, 9000}})
             << netDev({{"wlan0", 777777, 777777}}) << 25.0 << 75.0 << 0.0 << 0.0;

@@ -233,7 +233,7 @@ private slots:
         QCOMPARE(item()->render[0].text, QStringLiteral("Mail"));
         QTRY_VERIFY_WITH_TIMEOUT(keypadShowsItem(), 30000);
 
-        // Live content from the keyboard: the date has no graph, the memory has.
+        // Live content from the keyboard: the date has no graph, the network has.
         auto* face = form->findChild<FaceEditor*>();
         QTest::keyClick(face->liveContentBox(), Qt::Key_End);
         QCOMPARE(FaceHints::liveKind(item()->render[0].hintFlags), FaceHints::LiveKind::Date);
@@ -241,7 +241,8 @@ private slots:
         QTest::keyClick(face->liveContentBox(), Qt::Key_Up);
         QTest::keyClick(face->liveContentBox(), Qt::Key_Up);
         QTest::keyClick(face->liveGraphBox(), Qt::Key_Space);
-        QCOMPARE(item()->render[0].hintFlags, FaceHints::ShowTitle | FaceHints::withLiveKind(0, FaceHints::LiveKind::Network) |
+        QCOMPARE(item()->render[0].hintFlags, FaceHints::ShowTitle |
+                                                  FaceHints::withLiveKind(0, FaceHints::LiveKind::Network) |
                                                   FaceHints::LiveGraph);
         QTRY_VERIFY_WITH_TIMEOUT(keypadShowsItem(), 30000);
 

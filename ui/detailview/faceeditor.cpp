@@ -94,9 +94,9 @@ FaceEditor::FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabe
     layout->addLayout(liveRow);
 
     if (slot == 1) {
-        for (QWidget* control : {static_cast<QWidget*>(m_style), static_cast<QWidget*>(m_chooseIcon),
-                                 static_cast<QWidget*>(m_defaultIcon), static_cast<QWidget*>(m_live),
-                                 static_cast<QWidget*>(m_graph)})
+        for (QWidget* control :
+             {static_cast<QWidget*>(m_style), static_cast<QWidget*>(m_chooseIcon), static_cast<QWidget*>(m_defaultIcon),
+              static_cast<QWidget*>(m_live), static_cast<QWidget*>(m_graph)})
             control->setAccessibleDescription(tr("Of the second hotkey"));
     }
 
