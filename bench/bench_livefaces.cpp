@@ -1,8 +1,10 @@
 // Live key faces against the simulated keypad, with the real /proc:
 //  - the floor: the same process with no live key (the device thread polls);
-//  - four live keys on the current page (processor, memory, network with its
-//    graph, clock): processor use of sampling, drawing and sending above the
+//  - four live keys on the current page (processor, memory and network with
+//    their graphs, clock): processor use of sampling, drawing and sending above the
 //    floor, and image writes per live key per second counted at the keypad;
+//    every image write busy-waits 2 ms per 8000-byte chunk (4 ms for a key),
+//    as the keypad requires: that share is shown apart;
 //  - the same keys only on a page not shown: nothing samples, nothing wakes.
 // Usage: bench_livefaces [seconds per phase, default 60]
 #include "buttonlayoutconfig.h"
@@ -27,6 +29,7 @@
 
 #include <cstdio>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 
@@ -38,6 +41,33 @@ double processCpuSeconds()
     getrusage(RUSAGE_SELF, &usage);
     const auto seconds = [](const timeval& t) { return double(t.tv_sec) + double(t.tv_usec) / 1e6; };
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+// Processor time of the calling thread.
+double threadCpuSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_THREAD, &usage);
+    const auto seconds = [](const timeval& t) { return double(t.tv_sec) + double(t.tv_usec) / 1e6; };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+// Processor time of the thread with this name, from /proc.
+double namedThreadCpuSeconds(const QByteArray& name)
+{
+    const QDir tasks(QStringLiteral("/proc/self/task"));
+    for (const QString& tid : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile comm(tasks.filePath(tid + QStringLiteral("/comm")));
+        if (!comm.open(QIODevice::ReadOnly) || comm.readAll().trimmed() != name)
+            continue;
+        QFile stat(tasks.filePath(tid + QStringLiteral("/stat")));
+        if (!stat.open(QIODevice::ReadOnly))
+            return 0;
+        const QByteArray line = stat.readAll();
+        const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+        return (fields.value(11).toDouble() + fields.value(12).toDouble()) / double(sysconf(_SC_CLK_TCK));
+    }
+    return 0;
 }
 
 // Wake-ups of the thread with this name: its context switches so far.
@@ -64,7 +94,11 @@ long threadSwitches(const QByteArray& name)
 struct Phase
 {
     double cpuPercent = 0;
+    double guiPercent = 0;     // drawing and sending
+    double samplerPercent = 0; // reading /proc
     int writes = 0;
+    // The protocol's busy waits: 2 ms after each 8000-byte chunk of an image.
+    double pausePercent = 0;
     int samples = 0;
     long samplerSwitches = 0;
 };
@@ -80,12 +114,17 @@ Phase run(int seconds, SimulatedKeypad& keypad, SysMonitor& monitor)
     const int samplesBefore = monitor.sampleCount();
     const long switchesBefore = threadSwitches("SysMonitor");
     const double before = processCpuSeconds();
+    const double guiBefore = threadCpuSeconds();
+    const double samplerBefore = namedThreadCpuSeconds("SysMonitor");
     QEventLoop loop;
     QTimer::singleShot(seconds * 1000, &loop, &QEventLoop::quit);
     loop.exec();
     Phase phase;
     phase.cpuPercent = 100.0 * (processCpuSeconds() - before) / seconds;
+    phase.guiPercent = 100.0 * (threadCpuSeconds() - guiBefore) / seconds;
+    phase.samplerPercent = 100.0 * (namedThreadCpuSeconds("SysMonitor") - samplerBefore) / seconds;
     phase.writes = keypad.reportCount(SimulatedKeypad::ReportKind::ShowImage);
+    phase.pausePercent = 100.0 * keypad.reportCount(SimulatedKeypad::ReportKind::DataChunkLarge) * 0.002 / seconds;
     phase.samples = monitor.sampleCount() - samplesBefore;
     phase.samplerSwitches = threadSwitches("SysMonitor") - switchesBefore;
     return phase;
@@ -105,8 +144,10 @@ void addLiveKey(KeyItemModel& model, int keyIdx, FaceHints::LiveKind kind, bool 
 
 void addFourLiveKeys(KeyItemModel& model)
 {
-    addLiveKey(model, 0, FaceHints::LiveKind::Processor, false);
-    addLiveKey(model, 1, FaceHints::LiveKind::Memory, false);
+    // With their graphs, which move every second: the faces change as often
+    // as they can.
+    addLiveKey(model, 0, FaceHints::LiveKind::Processor, true);
+    addLiveKey(model, 1, FaceHints::LiveKind::Memory, true);
     addLiveKey(model, 2, FaceHints::LiveKind::Network, true);
     addLiveKey(model, 3, FaceHints::LiveKind::Clock, false);
 }
@@ -159,6 +200,10 @@ int main(int argc, char** argv)
     const Phase shown = run(seconds, keypad, monitor);
     std::printf("four live keys on the page shown: %.3f %% of one core, %.3f %% above the floor\n", shown.cpuPercent,
                 shown.cpuPercent - floor.cpuPercent);
+    std::printf("    GUI thread (drawing, sending) %.3f %% (floor %.3f %%), sampler thread %.3f %%\n", shown.guiPercent,
+                floor.guiPercent, shown.samplerPercent);
+    std::printf("    of which the protocol's busy waits: %.3f %%; without them %.3f %% above the floor\n",
+                shown.pausePercent, shown.cpuPercent - floor.cpuPercent - shown.pausePercent);
     std::printf("    %d samples, %d image writes: %.3f per live key per second\n", shown.samples, shown.writes,
                 double(shown.writes) / 4.0 / seconds);
 

@@ -231,12 +231,17 @@ private slots:
         QTest::addColumn<int>("kind");
         QTest::addColumn<SystemReadings>("values");
         QTest::addColumn<QString>("text"); // empty: the static face
-        SystemReadings network = readings(-1, -1);
-        network.receiveBytesPerSecond = 1234567;
-        network.sendBytesPerSecond = 999;
+        const auto network = [](double received, double sent) {
+            SystemReadings values = readings(-1, -1);
+            values.receiveBytesPerSecond = received;
+            values.sendBytesPerSecond = sent;
+            return values;
+        };
         QTest::newRow("processor") << int(LiveKind::Processor) << readings(37.4, -1) << "37%";
         QTest::newRow("memory") << int(LiveKind::Memory) << readings(-1, 99.6) << "100%";
-        QTest::newRow("network") << int(LiveKind::Network) << network << "1.2M/999";
+        QTest::newRow("network") << int(LiveKind::Network) << network(1234567, 999) << "1.2M/999";
+        QTest::newRow("network, rounded up a unit") << int(LiveKind::Network) << network(999.7, 9999999) << "1.0K/10M";
+        QTest::newRow("network, fast") << int(LiveKind::Network) << network(125e9, 12345) << "125G/12K";
         QTest::newRow("processor not known yet") << int(LiveKind::Processor) << readings(-1, 50) << "";
         QTest::newRow("network not known yet") << int(LiveKind::Network) << readings(5, 5) << "";
     }
@@ -271,24 +276,6 @@ private slots:
         QFETCH(QString, clock);
         const QDateTime at(QDate(2026, 11, 23), QTime(14, 5, 59));
         QCOMPARE(LiveFacePainter::valueText(LiveKind::Clock, SystemReadings(), at, QLocale(locale)), clock);
-    }
-
-    void shouldWriteRatesInFourCharacters_data()
-    {
-        QTest::addColumn<double>("rate");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("bytes") << 999.0 << "999";
-        QTest::newRow("rounds up into kilo") << 999.7 << "1.0K";
-        QTest::newRow("kilo") << 12345.0 << "12K";
-        QTest::newRow("mega") << 9940000.0 << "9.9M";
-        QTest::newRow("giga") << 125e9 << "125G";
-    }
-
-    void shouldWriteRatesInFourCharacters()
-    {
-        QFETCH(double, rate);
-        QFETCH(QString, text);
-        QCOMPARE(LiveFacePainter::shortRate(rate), text);
     }
 };
 
