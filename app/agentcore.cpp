@@ -14,12 +14,14 @@
 #include "keypadmonitor.h"
 #include "keypadstatus.h"
 #include "keypadusbids.h"
+#include "livefaceupdater.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "runtimeactionservices.h"
 #include "settings.h"
 #include "settingskeys.h"
 #include "sleepmonitor.h"
+#include "sysmonitor.h"
 #include "taskproxy.h"
 #include "updatedevicon.h"
 #include "virtualkey.h"
@@ -36,6 +38,7 @@ AgentCore::AgentCore(QObject* parent) : QObject(parent), m_windowSystem(WindowSy
     createDevice();
     createRuntime();
     createDimming();
+    createLiveFaces();
 }
 
 AgentCore::~AgentCore()
@@ -126,8 +129,20 @@ void AgentCore::createDimming()
     m_keyAction->setKeyEventFilter(m_dimmer);
 }
 
+// Keys showing processor, memory, network use or the time.
+void AgentCore::createLiveFaces()
+{
+    m_sysMonitor = std::make_unique<SysMonitor>();
+    m_liveFaces = std::make_unique<LiveFaceUpdater>(m_keyItemModel, m_hidComm.get(), m_sysMonitor.get(), m_dimmer);
+    LiveFaceUpdater* liveFaces = m_liveFaces.get();
+    connect(m_sleepMonitor, &SleepMonitor::aboutToSleep, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(true); });
+    connect(m_sleepMonitor, &SleepMonitor::resumed, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(false); });
+}
+
 void AgentCore::stop()
 {
+    m_liveFaces.reset();
+    m_sysMonitor.reset();
     if (m_folderCondition)
         m_folderCondition->stopFolderConditionDetect();
     m_keyAction.reset();
@@ -216,4 +231,9 @@ ScreenLockMonitor* AgentCore::screenLockMonitor() const
 KeypadDimmer* AgentCore::keypadDimmer() const
 {
     return m_dimmer;
+}
+
+LiveFaceUpdater* AgentCore::liveFaces() const
+{
+    return m_liveFaces.get();
 }

@@ -14,10 +14,12 @@ class KeyItemModel;
 class KeypadDimmer;
 class KeypadMonitor;
 class KeypadStatus;
+class LiveFaceUpdater;
 class RuntimeActionServices;
 class ScreenLockMonitor;
 class Settings;
 class SleepMonitor;
+class SysMonitor;
 class TaskProxy;
 class WindowSystem;
 
@@ -58,12 +60,15 @@ public:
     TaskProxy* taskProxy() const;
     ScreenLockMonitor* screenLockMonitor() const;
     KeypadDimmer* keypadDimmer() const;
+    // Null once stopped.
+    LiveFaceUpdater* liveFaces() const;
 
 private:
     void createModel();
     void createDevice();
     void createRuntime();
     void createDimming();
+    void createLiveFaces();
     void onButtonLayoutChanged(int layout);
     void onModelContentChanged(const KeyItem* item);
 
@@ -82,4 +87,6 @@ private:
     FolderCondition* m_folderCondition = nullptr;
     ScreenLockMonitor* m_screenLock = nullptr;
     KeypadDimmer* m_dimmer = nullptr;
+    std::unique_ptr<SysMonitor> m_sysMonitor;
+    std::unique_ptr<LiveFaceUpdater> m_liveFaces;
 };

@@ -18,6 +18,7 @@
 #include "keyitemmodel.h"
 #include "keypadaccess.h"
 #include "keypadstatus.h"
+#include "livefaceupdater.h"
 #include "logging.h"
 #include "objectregistry.h"
 #include "preferencecontext.h"
@@ -287,6 +288,8 @@ void MainWindow::connectCore()
     // Away from the editor, no key stays selected under a stale description.
     connect(m_core->folderCondition(), &FolderCondition::functionDescriptionWanted, this,
             [this](int actionType) { showFunctionDescription(actionType, true); });
+    // Live keys redraw in the grid as on the keypad.
+    connect(m_core->liveFaces(), &LiveFaceUpdater::faceChanged, m_grid, &KeyItemGridView::onUpdateContent);
     KeypadStatus* status = m_core->keypadStatus();
     connect(status, &KeypadStatus::stateChanged, this, &MainWindow::showKeypadStatus);
     showKeypadStatus(status->state());
@@ -313,6 +316,9 @@ void MainWindow::watchForegroundApplications(bool background)
         folderCondition->startFolderConditionDetect();
     else
         folderCondition->stopFolderConditionDetect();
+    // Live keys are sampled for the grid only while the window is seen.
+    if (LiveFaceUpdater* liveFaces = m_core->liveFaces())
+        liveFaces->setEditorVisible(!background);
 }
 
 void MainWindow::hideEvent(QHideEvent* event)

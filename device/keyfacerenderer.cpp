@@ -5,7 +5,9 @@
 #include "facetitle.h"
 #include "keyitem.h"
 #include "keyrenderinfo.h"
+#include "livefacepainter.h"
 #include "logging.h"
+#include "systemreadings.h"
 
 #include <QPainter>
 
@@ -139,6 +141,11 @@ const KeyRenderInfo* KeyFaceRenderer::currentFace(const KeyItem* item)
 QImage KeyFaceRenderer::render(const KeyRenderInfo& face)
 {
     ensureFontsLoaded();
+    if (FaceHints::liveKind(face.hintFlags) != FaceHints::LiveKind::None) {
+        const QImage live = LiveFacePainter::paint(face, SystemReadings::current(), QDateTime::currentDateTime());
+        if (!live.isNull())
+            return live.convertToFormat(QImage::Format_RGBA8888);
+    }
     const QImage source = faceImage(face);
     const TitlePlace place = titlePlace(face.textAlign);
     const FaceTitle title = layOutTitle(face, place, !source.isNull());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facehints.h"
 #include "keypadtable.h"
 
 #include <QImage>
@@ -28,9 +29,11 @@ struct KeyRenderInfo;
 // - "Arial", the default title family, and families this machine lacks are
 //   drawn with the bundled Liberation Sans (see BundledFonts).
 //
-// hintFlags: bit HintShowTitle (1, the default) shows the title; with it
-// cleared the text is kept but not drawn and the image gets the whole face.
-// Other bits are reserved and ignored.
+// hintFlags (all bits: FaceHints): bit HintShowTitle (1, the default) shows
+// the title; with it cleared the text is kept but not drawn and the image
+// gets the whole face. A live kind draws the face with LiveFacePainter from
+// the current SystemReadings and the time; while its figure is not known
+// the static face above is drawn.
 //
 // Every face is drawn in ARGB32_Premultiplied, the format QPainter's raster
 // engine composes and scales fastest and exactly in, and returned as
@@ -47,7 +50,7 @@ public:
 
     enum HintFlag
     {
-        HintShowTitle = 0x1,
+        HintShowTitle = FaceHints::ShowTitle,
     };
 
     // The face of the item's current slot; solid black for a null item or

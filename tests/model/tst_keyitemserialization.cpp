@@ -95,7 +95,7 @@ private slots:
         item.render[0].textFont = QFont(QStringLiteral("Liberation Serif"), 14, QFont::Bold, true);
         item.render[0].textColor = QColor(10, 200, 30, 128);
         item.render[0].textAlign = Qt::AlignLeft | Qt::AlignTop;
-        item.render[0].hintFlags = 3;
+        item.render[0].hintFlags = 0x17; // title, a network face, its graph
         QImage image(72, 72, QImage::Format_ARGB32);
         image.fill(Qt::transparent);
         QPainter(&image).fillRect(10, 10, 40, 30, QColor(200, 40, 90));
@@ -131,7 +131,7 @@ private slots:
         QCOMPARE(copy->render[0].textFont, item.render[0].textFont);
         QCOMPARE(copy->render[0].textColor, item.render[0].textColor);
         QCOMPARE(copy->render[0].textAlign, item.render[0].textAlign);
-        QCOMPARE(copy->render[0].hintFlags, 3);
+        QCOMPARE(copy->render[0].hintFlags, 0x17);
         QVERIFY(copy->render[0].userImg.isNull());
         QCOMPARE(copy->render[1].userImg.toImage(), item.render[1].userImg.toImage());
         if (type == KAT_HOTKEY) {

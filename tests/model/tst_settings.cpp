@@ -164,7 +164,7 @@ QVariantMap keyList(const QString& text)
                            {QStringLiteral("textFont"), styledFont()},
                            {QStringLiteral("textColor"), QColor(10, 20, 30, 200)},
                            {QStringLiteral("userImg"), semiTransparentPixmap()},
-                           {QStringLiteral("hintFlags"), 1}};
+                           {QStringLiteral("hintFlags"), 0x17}}; // a live face with its graph
     const QVariantMap key{{QStringLiteral("actionTypeString"), QStringLiteral("KAT_PASTE_STRING")},
                           {QStringLiteral("multiFeatureFlag"), false},
                           {QStringLiteral("keyRenderMap_0"), face}};

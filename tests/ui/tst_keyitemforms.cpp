@@ -1,3 +1,5 @@
+#include "faceeditor.h"
+#include "facehints.h"
 #include "foldercondition.h"
 #include "folderform.h"
 #include "formarea.h"
@@ -26,6 +28,7 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -228,6 +231,19 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(keypadShowsItem(), 30000);
         QTest::keyClicks(form->titleField(), QStringLiteral("Mail"));
         QCOMPARE(item()->render[0].text, QStringLiteral("Mail"));
+        QTRY_VERIFY_WITH_TIMEOUT(keypadShowsItem(), 30000);
+
+        // Live content from the keyboard: the date has no graph, the network has.
+        auto* face = form->findChild<FaceEditor*>();
+        QTest::keyClick(face->liveContentBox(), Qt::Key_End);
+        QCOMPARE(FaceHints::liveKind(item()->render[0].hintFlags), FaceHints::LiveKind::Date);
+        QVERIFY(!face->liveGraphBox()->isEnabled());
+        QTest::keyClick(face->liveContentBox(), Qt::Key_Up);
+        QTest::keyClick(face->liveContentBox(), Qt::Key_Up);
+        QTest::keyClick(face->liveGraphBox(), Qt::Key_Space);
+        QCOMPARE(item()->render[0].hintFlags, FaceHints::ShowTitle |
+                                                  FaceHints::withLiveKind(0, FaceHints::LiveKind::Network) |
+                                                  FaceHints::LiveGraph);
         QTRY_VERIFY_WITH_TIMEOUT(keypadShowsItem(), 30000);
 
         if (auto* launch = qobject_cast<LaunchForm*>(form)) {

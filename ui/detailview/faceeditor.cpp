@@ -1,6 +1,7 @@
 #include "faceeditor.h"
 
 #include "buttonlayoutconfig.h"
+#include "facehints.h"
 #include "formdialogs.h"
 #include "keyfacerenderer.h"
 #include "keyiconimage.h"
@@ -9,6 +10,8 @@
 #include "keyitemform.h"
 #include "keyitemmodel.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -79,9 +82,26 @@ FaceEditor::FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabe
     iconRow->addStretch(1);
     layout->addLayout(iconRow);
 
+    // The entries in FaceHints::LiveKind order: the index is the kind.
+    m_live = new QComboBox(this);
+    m_live->addItems({tr("None"), tr("Processor"), tr("Memory"), tr("Network"), tr("Clock"), tr("Date")});
+    m_live->setAccessibleName(tr("Live content:"));
+    auto* liveCaption = new QLabel(tr("Live content:"), this);
+    liveCaption->setBuddy(m_live);
+    m_graph = new QCheckBox(tr("Graph"), this);
+    m_graph->setAccessibleName(m_graph->text());
+    m_graph->setToolTip(tr("A graph of the last minute under the value"));
+    auto* liveRow = new QHBoxLayout;
+    liveRow->addWidget(liveCaption);
+    liveRow->addWidget(m_live);
+    liveRow->addWidget(m_graph);
+    liveRow->addStretch(1);
+    layout->addLayout(liveRow);
+
     if (slot == 1) {
-        for (QWidget* control : {static_cast<QWidget*>(m_style), static_cast<QWidget*>(m_chooseIcon),
-                                 static_cast<QWidget*>(m_defaultIcon)})
+        for (QWidget* control :
+             {static_cast<QWidget*>(m_style), static_cast<QWidget*>(m_chooseIcon), static_cast<QWidget*>(m_defaultIcon),
+              static_cast<QWidget*>(m_live), static_cast<QWidget*>(m_graph)})
             control->setAccessibleDescription(tr("Of the second hotkey"));
     }
 
@@ -90,6 +110,8 @@ FaceEditor::FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabe
     connect(m_style, &QPushButton::clicked, this, &FaceEditor::chooseStyle);
     connect(m_chooseIcon, &QPushButton::clicked, this, &FaceEditor::chooseIcon);
     connect(m_defaultIcon, &QPushButton::clicked, this, &FaceEditor::useDefaultIcon);
+    connect(m_live, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &FaceEditor::applyLiveContent);
+    connect(m_graph, &QCheckBox::toggled, this, &FaceEditor::applyLiveContent);
 }
 
 void FaceEditor::refresh(const KeyItem& item)
@@ -104,6 +126,20 @@ void FaceEditor::refresh(const KeyItem& item)
     }
     m_icon->setPixmap(iconTile(item, m_slot));
     m_defaultIcon->setEnabled(!face.userImg.isNull());
+    const FaceHints::LiveKind kind = FaceHints::liveKind(face.hintFlags);
+    {
+        const QSignalBlocker liveBlocker(m_live);
+        const QSignalBlocker graphBlocker(m_graph);
+        m_live->setCurrentIndex(int(kind));
+        m_graph->setChecked(FaceHints::showsGraph(face.hintFlags));
+    }
+    m_graph->setEnabled(FaceHints::canShowGraph(kind));
+}
+
+void FaceEditor::applyLiveContent()
+{
+    m_editor->setLiveContent(m_slot, m_live->currentIndex(), m_graph->isChecked());
+    refreshFromModel();
 }
 
 void FaceEditor::refreshFromModel()

@@ -6,6 +6,8 @@
 class KeyItem;
 class KeyItemEditor;
 struct KeyRenderInfo;
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -13,7 +15,10 @@ class QPushButton;
 // The face controls of one feature slot in a property form: the title
 // (line breaks allowed; the key wraps and shortens what does not fit) with
 // its "Style…" button, and the icon with "Choose icon…" and "Use default
-// icon". Every change goes through the form's KeyItemEditor at once.
+// icon", and what the key shows live ("Live content": processor, memory,
+// network, clock or date, with an optional graph), which the title and icon
+// stand in for while a figure is not known. Every change goes through the
+// form's KeyItemEditor at once.
 class FaceEditor : public QWidget
 {
     Q_OBJECT
@@ -26,6 +31,8 @@ public:
     QLabel* iconPreview() const { return m_icon; }
     QPushButton* chooseIconButton() const { return m_chooseIcon; }
     QPushButton* defaultIconButton() const { return m_defaultIcon; }
+    QComboBox* liveContentBox() const { return m_live; }
+    QCheckBox* liveGraphBox() const { return m_graph; }
 
     // Shows the slot's face of item; what the user is typing stays as long
     // as it is what the item holds.
@@ -36,6 +43,7 @@ private:
     void chooseStyle();
     void chooseIcon();
     void useDefaultIcon();
+    void applyLiveContent();
     void refreshFromModel();
     QSize gridIconSize() const;
     static QPixmap iconTile(const KeyItem& item, int slot);
@@ -47,4 +55,6 @@ private:
     QLabel* m_icon = nullptr;
     QPushButton* m_chooseIcon = nullptr;
     QPushButton* m_defaultIcon = nullptr;
+    QComboBox* m_live = nullptr;
+    QCheckBox* m_graph = nullptr;
 };

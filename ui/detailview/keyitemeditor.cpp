@@ -1,5 +1,6 @@
 #include "keyitemeditor.h"
 
+#include "facehints.h"
 #include "ka_execute.h"
 #include "ka_folder.h"
 #include "ka_hotkey.h"
@@ -187,6 +188,20 @@ bool KeyItemEditor::setIcon(int slot, const QImage& image)
         if (!face.userImg.isNull() && face.userImg.toImage() == image)
             return false;
         face.userImg = icon;
+        return true;
+    });
+}
+
+bool KeyItemEditor::setLiveContent(int slot, int liveKind, bool graph)
+{
+    const bool known = liveKind >= 0 && liveKind < FaceHints::LiveKindCount;
+    const auto kind = FaceHints::LiveKind(known ? liveKind : 0);
+    const bool withGraph = graph && FaceHints::canShowGraph(kind);
+    return editFace("live content", slot, known, [kind, withGraph](KeyRenderInfo& face) {
+        const int flags = FaceHints::withGraph(FaceHints::withLiveKind(face.hintFlags, kind), withGraph);
+        if (flags == face.hintFlags)
+            return false;
+        face.hintFlags = flags;
         return true;
     });
 }

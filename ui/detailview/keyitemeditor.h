@@ -58,6 +58,9 @@ public:
     bool setIcon(int slot, const QImage& image);
     // Back to the type's default image.
     bool clearIcon(int slot);
+    // What the face shows live (FaceHints::LiveKind; 0: a static face) and
+    // whether a sampled figure has its graph. The title and icon stay.
+    bool setLiveContent(int slot, int liveKind, bool graph);
 
 private:
     // change: applies the edit to one face, returns whether it changed it.
