@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "controlservice.h"
 #include "iconthemeindex.h"
 #include "instancecheck.h"
 #include "ipctoken.h"
@@ -7,6 +8,7 @@
 #include "mainwindow.h"
 #include "metatypes.h"
 #include "myapplication.h"
+#include "sessionbus.h"
 #include "settings.h"
 #include "settingskeys.h"
 #include "simulatedkeypad.h"
@@ -127,5 +129,7 @@ int Startup::run(int& argc, char** argv)
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.setAttribute(Qt::WA_TranslucentBackground);
     window.show();
+    // After the window, before the loop: calls are answered once it runs.
+    const ControlService control(window.core(), sessionBusIfAny());
     return application.exec();
 }
