@@ -28,11 +28,7 @@ KWinScriptSource::KWinScriptSource(const QDBusConnection& bus, QObject* parent) 
 // Quitting: the script must not outlive us, so this one call waits, briefly.
 KWinScriptSource::~KWinScriptSource()
 {
-    if (!isStarted())
-        return;
-    stop();
-    m_bus.call(scriptingCall(QStringLiteral("unloadScript")) << QString::fromLatin1(PluginName), QDBus::Block,
-               UnloadWaitMs);
+    finish(QDBus::Block);
 }
 
 QString KWinScriptSource::name() const
@@ -65,12 +61,17 @@ void KWinScriptSource::start()
 
 void KWinScriptSource::stop()
 {
+    finish(QDBus::NoBlock);
+}
+
+void KWinScriptSource::finish(QDBus::CallMode mode)
+{
     if (!isStarted())
         return;
     setStarted(false);
     delete m_watcher;
     m_watcher = nullptr;
-    unload();
+    m_bus.call(scriptingCall(QStringLiteral("unloadScript")) << QString::fromLatin1(PluginName), mode, UnloadWaitMs);
     m_bus.unregisterObject(QString::fromLatin1(ReportPath));
 }
 
@@ -130,9 +131,4 @@ void KWinScriptSource::load()
         }
         m_bus.call(scriptingCall(QStringLiteral("start")), QDBus::NoBlock);
     });
-}
-
-void KWinScriptSource::unload()
-{
-    m_bus.call(scriptingCall(QStringLiteral("unloadScript")) << QString::fromLatin1(PluginName), QDBus::NoBlock);
 }

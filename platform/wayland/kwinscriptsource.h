@@ -39,7 +39,8 @@ public slots:
 
 private:
     void load();
-    void unload();
+    // Unloads the script and stops listening.
+    void finish(QDBus::CallMode mode);
 
     QDBusConnection m_bus;
     QDBusServiceWatcher* m_watcher = nullptr;
