@@ -1,5 +1,6 @@
 #include "startup.h"
 
+#include "controlservice.h"
 #include "iconthemeindex.h"
 #include "instancecheck.h"
 #include "ipctoken.h"
@@ -8,6 +9,7 @@
 #include "mainwindow.h"
 #include "metatypes.h"
 #include "myapplication.h"
+#include "sessionbus.h"
 #include "settings.h"
 #include "settingskeys.h"
 #include "simulatedkeypad.h"
@@ -152,5 +154,7 @@ int Startup::run(int& argc, char** argv)
     window.show();
     // The xcb platform reads the switch when it makes its first window.
     forgetOpenGlSwitch(openGlSwitchedOff);
+    // After the window, before the loop: calls are answered once it runs.
+    const ControlService control(window.core(), sessionBusIfAny());
     return application.exec();
 }

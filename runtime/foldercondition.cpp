@@ -37,6 +37,8 @@ FolderCondition::FolderCondition(int intervalMs, std::unique_ptr<WindowSystem> w
 FolderCondition::~FolderCondition()
 {
     m_timer->stop();
+    if (m_windowSystem)
+        m_windowSystem->watchForegroundApplication(false);
 }
 
 bool FolderCondition::isAvailable()
@@ -44,9 +46,9 @@ bool FolderCondition::isAvailable()
     return WindowSystem::create()->canQueryForegroundApplication();
 }
 
-QString FolderCondition::unavailableNotice()
+QString FolderCondition::sourceNotice()
 {
-    return tr("This desktop does not tell which application is in front, so folders cannot open by application.");
+    return WindowSystem::create()->foregroundSourceNotice();
 }
 
 bool FolderCondition::isDetecting() const
@@ -72,8 +74,10 @@ void FolderCondition::startFolderConditionDetect()
     if (!checkAvailable())
         return;
     buildWatchList();
-    if (!m_watchList.isEmpty())
-        m_timer->start();
+    if (m_watchList.isEmpty())
+        return;
+    m_windowSystem->watchForegroundApplication(true);
+    m_timer->start();
 }
 
 void FolderCondition::stopFolderConditionDetect()
@@ -81,12 +85,18 @@ void FolderCondition::stopFolderConditionDetect()
     LOG_MSG(QStringLiteral("stopping folder condition detection"));
     m_timer->stop();
     m_watchList.clear();
+    if (m_windowSystem)
+        m_windowSystem->watchForegroundApplication(false);
 }
 
 void FolderCondition::onBkTimerTimeout()
 {
     if (++tickCount % AliveLogTicks == 0)
         LOG_MSG(QStringLiteral("folder condition detection are running."));
+    // A desktop that tells by events has not spoken yet: an empty name now
+    // would make the same application count as a change once it does.
+    if (m_windowSystem && !m_windowSystem->isForegroundApplicationKnown())
+        return;
     const QString name = m_windowSystem ? m_windowSystem->foregroundApplicationName() : QString();
     if (name == lastApplicationName)
         return;

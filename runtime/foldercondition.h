@@ -25,9 +25,9 @@ public:
     ~FolderCondition() override;
 
     // Whether this desktop tells which application is in front; the folder
-    // form shows unavailableNotice() when it does not.
+    // form shows sourceNotice(): what tells it, or what would.
     static bool isAvailable();
-    static QString unavailableNotice();
+    static QString sourceNotice();
 
     bool isDetecting() const;
     QList<KA_Folder*> watchList() const;

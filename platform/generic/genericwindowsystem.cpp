@@ -1,8 +1,16 @@
 #include "genericwindowsystem.h"
 
+#include "foregroundsource.h"
+#include "x11windowsystem.h"
+
 #include <QWindow>
 
-GenericWindowSystem::GenericWindowSystem(const QString& name) : m_name(name) {}
+GenericWindowSystem::GenericWindowSystem(const QString& name, std::unique_ptr<ForegroundSource> source)
+    : m_name(name), m_source(std::move(source))
+{
+}
+
+GenericWindowSystem::~GenericWindowSystem() = default;
 
 QString GenericWindowSystem::name() const
 {
@@ -34,12 +42,38 @@ bool GenericWindowSystem::activateWindowId(quint64)
 
 bool GenericWindowSystem::canQueryForegroundApplication() const
 {
-    return false;
+    return m_source != nullptr;
 }
 
 QString GenericWindowSystem::foregroundApplicationName()
 {
-    return QString();
+    const qint64 pid = m_source ? m_source->processId() : 0;
+    return pid > 0 ? X11WindowSystem::executableBaseName(pid) : QString();
+}
+
+void GenericWindowSystem::watchForegroundApplication(bool watch)
+{
+    if (!m_source)
+        return;
+    if (watch)
+        m_source->start();
+    else
+        m_source->stop();
+}
+
+bool GenericWindowSystem::isForegroundApplicationKnown() const
+{
+    return !m_source || m_source->processId() != ForegroundSource::Unknown;
+}
+
+QString GenericWindowSystem::foregroundSourceNotice() const
+{
+    return m_source ? m_source->notice() : WindowSystem::foregroundSourceNotice();
+}
+
+ForegroundSource* GenericWindowSystem::foregroundSource() const
+{
+    return m_source.get();
 }
 
 QStringList GenericWindowSystem::runningApplicationExecutables()

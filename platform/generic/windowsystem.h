@@ -35,6 +35,16 @@ public:
     // The executable's base name ("editor" for /opt/tools/editor.sh) of the
     // process that owns the active window; empty whenever a step is unknown.
     virtual QString foregroundApplicationName() = 0;
+    // Folder conditions watch the application in front only while they run:
+    // a desktop that tells it by events is listened to only meanwhile.
+    virtual void watchForegroundApplication(bool watch);
+    // False while a watched desktop has not yet said what is in front (just
+    // started, or its compositor restarting): nothing is known to compare.
+    virtual bool isForegroundApplicationKnown() const;
+    // For the folder form: what tells this desktop's application in front,
+    // or what would make folders open by application.
+    virtual QString foregroundSourceNotice() const;
+
     // The absolute paths of the programs whose processes own the desktop's
     // top-level windows, each once, in the window manager's order; empty
     // where the desktop does not tell. Callable from any thread.

@@ -1,6 +1,7 @@
 #include "dbusscreenlockmonitor.h"
 
 #include "logging.h"
+#include "sessionbus.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
@@ -37,7 +38,7 @@ constexpr int ScreenSaverCount = int(std::size(ScreenSavers));
 } // namespace
 
 DBusScreenLockMonitor::DBusScreenLockMonitor(QObject* parent)
-    : DBusScreenLockMonitor(QDBusConnection::systemBus(), sessionBusIfAny(), parent)
+    : DBusScreenLockMonitor(QDBusConnection::systemBus(), ::sessionBusIfAny(), parent)
 {
 }
 
@@ -49,16 +50,6 @@ DBusScreenLockMonitor::DBusScreenLockMonitor(const QDBusConnection& systemBus, c
 }
 
 DBusScreenLockMonitor::~DBusScreenLockMonitor() = default;
-
-// Without an address libdbus would try to launch a session bus of its own;
-// a desktop without one has no screen saver to ask.
-QDBusConnection DBusScreenLockMonitor::sessionBusIfAny()
-{
-    const QString runtimeDir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") && !QFile::exists(runtimeDir + QStringLiteral("/bus")))
-        return QDBusConnection(QStringLiteral("keystage-no-session-bus"));
-    return QDBusConnection::sessionBus();
-}
 
 bool DBusScreenLockMonitor::available() const
 {

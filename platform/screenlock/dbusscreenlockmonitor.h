@@ -48,7 +48,6 @@ private slots:
     void onScreenSaverActiveChanged(bool active);
 
 private:
-    static QDBusConnection sessionBusIfAny();
     void start();
     void findSession(bool byPid);
     void followSession(const QDBusObjectPath& session);

@@ -78,3 +78,27 @@ QStringList FakeWindowSystem::runningApplicationExecutables()
 {
     return {};
 }
+
+void FakeWindowSystem::watchForegroundApplication(bool watch)
+{
+    QMutexLocker locker(&m_mutex);
+    m_watched = watch;
+}
+
+bool FakeWindowSystem::isForegroundApplicationKnown() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_known;
+}
+
+bool FakeWindowSystem::isWatched() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_watched;
+}
+
+void FakeWindowSystem::setForegroundKnown(bool known)
+{
+    QMutexLocker locker(&m_mutex);
+    m_known = known;
+}

@@ -34,6 +34,12 @@ public:
     QString foregroundApplicationName() override;
     QStringList runningApplicationExecutables() override;
 
+    // A desktop that tells by events: listened to or not, spoken yet or not.
+    void watchForegroundApplication(bool watch) override;
+    bool isForegroundApplicationKnown() const override;
+    bool isWatched() const;
+    void setForegroundKnown(bool known);
+
 private:
     mutable QMutex m_mutex;
     quint64 m_foreground = 0;
@@ -41,5 +47,7 @@ private:
     bool m_obeys = true;
     QString m_application;
     bool m_canQuery = true;
+    bool m_watched = false;
+    bool m_known = true;
     QVector<Activation> m_activations;
 };

@@ -169,6 +169,28 @@ private slots:
         QCOMPARE(m_presses.size(), 3);
     }
 
+    // A desktop that tells by events is listened to only while detection
+    // runs, and nothing it has not yet said counts as a change: coming back
+    // with the same application in front opens nothing.
+    void shouldListenOnlyWhileDetectingAndWaitUntilTheDesktopHasSpoken()
+    {
+        addFolder(1, QStringLiteral("/opt/tools/editor.sh"));
+        tick(QStringLiteral("editor"));
+        QVERIFY(!m_windowSystem->isWatched());
+        m_condition->startFolderConditionDetect();
+        QVERIFY(m_windowSystem->isWatched());
+        m_windowSystem->setForegroundKnown(false);
+        tick(QString());
+        m_windowSystem->setForegroundKnown(true);
+        tick(QStringLiteral("editor"));
+        QVERIFY(m_presses.isEmpty());
+        tick(QStringLiteral("browser"));
+        tick(QStringLiteral("editor"));
+        QCOMPARE(m_presses.size(), 1);
+        m_condition->stopFolderConditionDetect();
+        QVERIFY(!m_windowSystem->isWatched());
+    }
+
     void shouldOpenEveryFolderWhoseBaseNameMatchesInOrder()
     {
         const QStringList names = QStringLiteral("/usr/bin/editor /opt/tools/Editor.sh C:/Tools/editor.exe viewer "

@@ -452,14 +452,14 @@ private slots:
         QCOMPARE(reached.size(), controls.size());
     }
 
-    void shouldShowWhyTheFolderLinkCannotWorkHere()
+    void shouldSayWhatTellsTheApplicationInFront()
     {
         auto* form = showForm<FolderForm>(KAT_FOLDER);
-        const QString notice = FolderCondition::unavailableNotice();
+        const QString notice = FolderCondition::sourceNotice();
         if (notice.isEmpty())
-            QCOMPARE(form->unavailableNote(), nullptr);
+            QCOMPARE(form->sourceNote(), nullptr);
         else
-            QCOMPARE(form->unavailableNote()->text(), notice);
+            QCOMPARE(form->sourceNote()->text(), notice);
         fixture.model->beginUpdate();
         static_cast<KA_Folder*>(item()->action[0])->appName = QStringLiteral("/usr/bin/gimp");
         fixture.model->endUpdate(true, item());

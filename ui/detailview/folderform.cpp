@@ -50,9 +50,9 @@ FolderForm::FolderForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
         refresh();
     });
 
-    const QString notice = FolderCondition::unavailableNotice();
+    const QString notice = FolderCondition::sourceNotice();
     if (!notice.isEmpty())
-        m_unavailable = addNote(notice);
+        m_sourceNote = addNote(notice);
     body()->addStretch(1);
 }
 
@@ -76,9 +76,9 @@ QPushButton* FolderForm::clearButton() const
     return m_clear;
 }
 
-QLabel* FolderForm::unavailableNote() const
+QLabel* FolderForm::sourceNote() const
 {
-    return m_unavailable;
+    return m_sourceNote;
 }
 
 QString FolderForm::executablePath(const QString& executable, const QString& commandLine)

@@ -18,8 +18,9 @@ public:
     QPushButton* chooseButton() const;
     QPushButton* browseButton() const;
     QPushButton* clearButton() const;
-    // Null where the foreground application can be read.
-    QLabel* unavailableNote() const;
+    // What tells the application in front, or what would; null when there
+    // is nothing to say.
+    QLabel* sourceNote() const;
 
     // What the folder link stores for a chosen application: its executable's
     // path, found on PATH when the entry names only a command.
@@ -36,5 +37,5 @@ private:
     QPushButton* m_choose = nullptr;
     QPushButton* m_browse = nullptr;
     QPushButton* m_clear = nullptr;
-    QLabel* m_unavailable = nullptr;
+    QLabel* m_sourceNote = nullptr;
 };
