@@ -25,9 +25,11 @@ enum ExitCode
 // A frozen program must not freeze the script that asks it.
 constexpr int AnswerTimeoutMs = 10000;
 
-QString tr(const char* text)
+// keystagectl has no translations of its own: its messages are English, like
+// its command names and the output scripts parse.
+QString message(const char* text)
 {
-    return QCoreApplication::translate("keystagectl", text);
+    return QString::fromUtf8(text);
 }
 
 QTextStream& out()
@@ -44,14 +46,14 @@ QTextStream& err()
 
 QString usage()
 {
-    return tr("Usage: keystagectl COMMAND [ARGUMENT]\n"
-              "Commands:\n"
-              "  status            what the keypad shows and whether it is connected\n"
-              "  press KEY         presses and releases a key of the page shown (0 = top left)\n"
-              "  folder NAME|KEY   opens a folder of the root page by its title or key\n"
-              "  back              goes back to the root page\n"
-              "  brightness LEVEL  sets the keypad's brightness (0 to 100)\n"
-              "  layout NUMBER     switches the button layout (0 to 5)\n");
+    return message("Usage: keystagectl COMMAND [ARGUMENT]\n"
+                   "Commands:\n"
+                   "  status            what the keypad shows and whether it is connected\n"
+                   "  press KEY         presses and releases a key of the page shown (0 = top left)\n"
+                   "  folder NAME|KEY   opens a folder of the root page by its title or key\n"
+                   "  back              goes back to the root page\n"
+                   "  brightness LEVEL  sets the keypad's brightness (0 to 100)\n"
+                   "  layout NUMBER     switches the button layout (0 to 5)\n");
 }
 
 class Client
@@ -63,11 +65,11 @@ public:
     int reach()
     {
         if (!m_bus.isConnected()) {
-            err() << tr("keystagectl: no session bus: %1").arg(m_bus.lastError().message()) << '\n';
+            err() << message("keystagectl: no session bus: %1").arg(m_bus.lastError().message()) << '\n';
             return NotRunning;
         }
         if (!m_bus.interface()->isServiceRegistered(ControlInterface::service())) {
-            err() << tr("keystagectl: Keystage is not running (nothing answers as %1 on the session bus).")
+            err() << message("keystagectl: Keystage is not running (nothing answers as %1 on the session bus).")
                          .arg(ControlInterface::service())
                   << '\n';
             return NotRunning;
@@ -112,11 +114,11 @@ int outcome(const QDBusMessage& reply)
     const QString name = reply.errorName();
     if (name == QLatin1String("org.freedesktop.DBus.Error.NoReply") ||
         name == QLatin1String("org.freedesktop.DBus.Error.Timeout")) {
-        err() << tr("keystagectl: Keystage did not answer.") << '\n';
+        err() << message("keystagectl: Keystage did not answer.") << '\n';
         return NoAnswer;
     }
     if (name == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")) {
-        err() << tr("keystagectl: Keystage is not running.") << '\n';
+        err() << message("keystagectl: Keystage is not running.") << '\n';
         return NotRunning;
     }
     err() << "keystagectl: " << reply.errorMessage() << '\n';
@@ -136,22 +138,23 @@ int status(Client& client)
     if (p.isEmpty())
         return outcome(client.lastReply());
     const bool connected = p.value(QStringLiteral("Connected")).toBool();
-    out() << tr("Keypad: %1")
-                 .arg(connected ? tr("connected, %1").arg(p.value(QStringLiteral("Model")).toString())
-                                : tr("not connected"))
+    out() << message("Keypad: %1")
+                 .arg(connected ? message("connected, %1").arg(p.value(QStringLiteral("Model")).toString())
+                                : message("not connected"))
           << '\n';
-    out() << tr("Layout: %1 (%2, %3 keys)")
+    out() << message("Layout: %1 (%2, %3 keys)")
                  .arg(p.value(QStringLiteral("Layout")).toInt())
                  .arg(p.value(QStringLiteral("LayoutName")).toString())
                  .arg(p.value(QStringLiteral("KeyCount")).toInt())
           << '\n';
     const int folderKey = p.value(QStringLiteral("CurrentFolderKey")).toInt();
     if (folderKey < 0)
-        out() << tr("Page: root") << '\n';
+        out() << message("Page: root") << '\n';
     else
-        out()
-            << tr("Page: folder \"%1\" (key %2)").arg(p.value(QStringLiteral("CurrentPage")).toString()).arg(folderKey)
-            << '\n';
+        out() << message("Page: folder \"%1\" (key %2)")
+                     .arg(p.value(QStringLiteral("CurrentPage")).toString())
+                     .arg(folderKey)
+              << '\n';
     return Done;
 }
 
@@ -170,7 +173,7 @@ int numberCommand(Client& client, const QString& method, const QString& argument
 {
     int number = 0;
     if (!toNumber(argument, &number)) {
-        err() << tr("keystagectl: \"%1\" is not a number.").arg(argument) << '\n';
+        err() << message("keystagectl: \"%1\" is not a number.").arg(argument) << '\n';
         return Usage;
     }
     return outcome(client.call(method, {number}));

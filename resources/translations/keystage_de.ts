@@ -263,6 +263,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>Auf der Startseite gibt es keinen Ordner mit dem Titel „%1“.</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>Taste %1 gibt es auf dem Tastenfeld nicht (0 bis %2).</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>Taste %1 der Startseite ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>Taste %1 hat auf dieser Seite keine Aktion.</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>Die Helligkeit %1 liegt nicht zwischen %2 und %3.</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>Das Layout %1 gibt es nicht (0 bis %2).</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -380,6 +407,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>Für das zweite Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>Live-Inhalt:</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>Ein Verlauf der letzten Minute unter dem Wert</translation>
     </message>
 </context>
 <context>
@@ -519,13 +582,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>Diese Arbeitsumgebung gibt nicht an, welche Anwendung im Vordergrund ist; Ordner können sich daher nicht je nach Anwendung öffnen.</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -556,6 +612,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>Der Ordner öffnet sich nicht mehr von selbst</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>Ordner öffnen sich je nach Anwendung: %1 meldet, welche im Vordergrund ist.</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>Ordner öffnen sich je nach Anwendung: die GNOME-Shell-Erweiterung Keystage Focus meldet, welche im Vordergrund ist.</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>Damit sich Ordner je nach Anwendung öffnen, schalten Sie die Erweiterung Keystage Focus unter „Erweiterungen“ ein oder führen Sie aus: gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>Damit sich Ordner unter GNOME je nach Anwendung öffnen, installieren Sie die GNOME-Shell-Erweiterung von Keystage (%1) und schalten Sie sie ein.</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>Ordner können sich nicht je nach Anwendung öffnen: Es gibt keinen Sitzungsbus, über den KWin gefragt werden kann.</translation>
     </message>
 </context>
 <context>
@@ -1139,6 +1218,10 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>Damit sie tippen können, installieren Sie die udev-Regel 70-keystage.rules (nach /etc/udev/rules.d, sofern kein Paket sie nach /usr/lib/udev/rules.d gelegt hat) und führen Sie „sudo udevadm control --reload &amp;&amp; sudo udevadm trigger“ aus, oder melden Sie sich in einer X11-Sitzung an.</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>Dies ist eine Wayland-Sitzung, und ohne Zugriff auf /dev/uinput werden Tasten über XWayland getippt, das nur Programme unter X erreicht. Damit jedes Programm sie erhält, installieren Sie die udev-Regel 70-keystage.rules (nach /etc/udev/rules.d, sofern ein Paket sie nicht schon nach /usr/lib/udev/rules.d gelegt hat), führen Sie „sudo udevadm control --reload &amp;&amp; sudo udevadm trigger“ aus und starten Sie %1 neu.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1239,6 +1322,21 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 Tasten, quer</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>Netz B/s</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1517,18 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
             <numerusform>Die Tasten des aktuellen Layouts werden durch die aus %1 ersetzt. Dies kann nicht rückgängig gemacht werden.
 %n Tasten passen nicht in dieses Layout und gehen verloren.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>Tastenkürzel und Makros tippen nur in X-Anwendungen.</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>Ihre Einstellungen können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>%1 kann nicht geschrieben werden: %2. Ihre Änderungen bleiben erhalten, solange %3 läuft, und werden gespeichert, sobald die Datei wieder geschrieben werden kann.</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2027,13 @@ Eine von Ihnen festgelegte Zeichenfolge. Ein Textbaustein kann eine Textnachrich
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>Eine Adresse ohne „https://“ wird als „http://“ geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>Diese Arbeitsumgebung meldet nicht, welche Anwendung im Vordergrund ist, deshalb können sich Ordner nicht je nach Anwendung öffnen. Unter Wayland können das sway, Hyprland, KDE Plasma und GNOME (mit der Erweiterung von Keystage).</translation>
     </message>
 </context>
 </TS>

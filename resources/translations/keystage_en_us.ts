@@ -263,6 +263,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>No folder titled "%1" on the root page.</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>Key %1 is not on the keypad (0 to %2).</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>Key %1 of the root page is not a folder.</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>Key %1 has no action on this page.</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>Brightness %1 is outside %2 to %3.</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>Layout %1 does not exist (0 to %2).</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -380,6 +407,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>Of the second hotkey</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processor</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memory</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Network</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Clock</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>Live content:</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>A graph of the last minute under the value</translation>
     </message>
 </context>
 <context>
@@ -519,13 +582,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>This desktop does not tell which application is in front, so folders cannot open by application.</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -556,6 +612,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>The folder no longer opens by itself</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>Folders open by application: %1 tells which is in front.</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>To open folders by application on GNOME, install Keystage's GNOME Shell extension (%1) and turn it on.</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>Folders cannot open by application: there is no session bus to ask KWin.</translation>
     </message>
 </context>
 <context>
@@ -1139,6 +1218,10 @@ A sequence of characters defined by users. Text string can be text message, sour
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run "sudo udevadm control --reload &amp;&amp; sudo udevadm trigger" and start %1 again.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1239,6 +1322,21 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 keys, horizontal</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>Net B/s</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1517,18 @@ A sequence of characters defined by users. Text string can be text message, sour
             <numerusform>The keys of the current layout are replaced by those of %1. You can&apos;t undo this action.
 %n keys do not fit this layout and will be lost.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>Hotkeys and macros type into X applications only.</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>Your settings cannot be saved.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2027,13 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>An address without &quot;https://&quot; opens as &quot;http://&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage's extension) do.</translation>
     </message>
 </context>
 </TS>

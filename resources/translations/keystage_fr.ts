@@ -263,6 +263,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>Aucun dossier intitulé « %1 » sur la page d’accueil.</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>La touche %1 n’existe pas sur le pavé (0 à %2).</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>La touche %1 de la page d’accueil n’est pas un dossier.</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>La touche %1 n’a pas d’action sur cette page.</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>La luminosité %1 n’est pas comprise entre %2 et %3.</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>La disposition %1 n’existe pas (0 à %2).</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -380,6 +407,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>Pour le second raccourci</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processeur</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Horloge</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>Contenu en direct :</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graphique</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>Un graphique de la dernière minute sous la valeur</translation>
     </message>
 </context>
 <context>
@@ -519,13 +582,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>Ce bureau n’indique pas quelle application est au premier plan&#x202f;; les dossiers ne peuvent donc pas s’ouvrir selon l’application.</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -556,6 +612,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>Le dossier ne s’ouvre plus de lui-même</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>Les dossiers s’ouvrent selon l’application : %1 indique celle qui est au premier plan.</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>Les dossiers s’ouvrent selon l’application : l’extension GNOME Shell Keystage Focus indique celle qui est au premier plan.</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>Pour ouvrir les dossiers selon l’application, activez l’extension Keystage Focus dans « Extensions », ou exécutez : gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>Pour ouvrir les dossiers selon l’application sous GNOME, installez l’extension GNOME Shell de Keystage (%1) et activez-la.</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>Les dossiers ne peuvent pas s’ouvrir selon l’application : aucun bus de session ne permet d’interroger KWin.</translation>
     </message>
 </context>
 <context>
@@ -1139,6 +1218,10 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>Pour leur permettre de taper, installez la règle udev 70-keystage.rules (dans /etc/udev/rules.d, sauf si un paquet l’a placée dans /usr/lib/udev/rules.d) et exécutez «&#xa0;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&#xa0;», ou ouvrez une session X11.</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>Ceci est une session Wayland et, sans accès à /dev/uinput, les touches passent par XWayland, que seuls les programmes fonctionnant sous X reçoivent. Pour atteindre tous les programmes, installez la règle udev 70-keystage.rules (dans /etc/udev/rules.d, sauf si un paquet l’a placée dans /usr/lib/udev/rules.d), exécutez « sudo udevadm control --reload &amp;&amp; sudo udevadm trigger » et relancez %1.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1239,6 +1322,21 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 touches, horizontal</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>Réseau o/s</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1517,18 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
             <numerusform>Les touches de la disposition actuelle sont remplacées par celles de %1. Cette action est irréversible.
 %n touches ne tiennent pas dans cette disposition et seront perdues.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>Les raccourcis clavier et les macros ne tapent que dans les applications X.</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>Vos paramètres ne peuvent pas être enregistrés.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>Impossible d’écrire %1 : %2. Vos modifications sont conservées tant que %3 fonctionne et seront enregistrées dès que le fichier pourra de nouveau être écrit.</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2027,13 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>Une adresse sans «&#xa0;https://&#xa0;» s’ouvre en «&#xa0;http://&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>Ce bureau n’indique pas quelle application est au premier plan : les dossiers ne peuvent donc pas s’ouvrir selon l’application. Sous Wayland, sway, Hyprland, KDE Plasma et GNOME (avec l’extension de Keystage) le permettent.</translation>
     </message>
 </context>
 </TS>

@@ -263,6 +263,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>Nessuna cartella con il titolo «%1» nella pagina principale.</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>Il tasto %1 non esiste sul tastierino (da 0 a %2).</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>Il tasto %1 della pagina principale non è una cartella.</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>Il tasto %1 non ha alcuna azione in questa pagina.</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>La luminosità %1 non è compresa tra %2 e %3.</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>Il layout %1 non esiste (da 0 a %2).</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -380,6 +407,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>Per la seconda scorciatoia</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processore</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rete</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>Orologio</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>Contenuto dal vivo:</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Grafico</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>Un grafico dell’ultimo minuto sotto il valore</translation>
     </message>
 </context>
 <context>
@@ -519,13 +582,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>Questo desktop non indica quale applicazione è in primo piano, quindi le cartelle non possono aprirsi in base all&apos;applicazione.</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -556,6 +612,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>La cartella non si apre più da sola</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>Le cartelle si aprono in base all’applicazione: %1 indica quale è in primo piano.</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>Le cartelle si aprono in base all’applicazione: l’estensione di GNOME Shell Keystage Focus indica quale è in primo piano.</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>Per aprire le cartelle in base all’applicazione, attiva l’estensione Keystage Focus in «Estensioni» oppure esegui: gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>Per aprire le cartelle in base all’applicazione su GNOME, installa l’estensione di GNOME Shell di Keystage (%1) e attivala.</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>Le cartelle non possono aprirsi in base all’applicazione: non c’è un bus di sessione per interrogare KWin.</translation>
     </message>
 </context>
 <context>
@@ -1139,6 +1218,10 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>Per permettere loro di digitare, installa la regola udev 70-keystage.rules (in /etc/udev/rules.d, a meno che un pacchetto non l&apos;abbia messa in /usr/lib/udev/rules.d) ed esegui «sudo udevadm control --reload &amp;&amp; sudo udevadm trigger», oppure accedi a una sessione X11.</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>Questa è una sessione Wayland e, senza accesso a /dev/uinput, i tasti vengono digitati tramite XWayland, che raggiunge solo i programmi eseguiti sotto X. Per raggiungere ogni programma, installa la regola udev 70-keystage.rules (in /etc/udev/rules.d, a meno che un pacchetto non l’abbia già messa in /usr/lib/udev/rules.d), esegui «sudo udevadm control --reload &amp;&amp; sudo udevadm trigger» e riavvia %1.</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1239,6 +1322,21 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 tasti, orizzontale</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>RAM</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>Rete B/s</translation>
     </message>
 </context>
 <context>
@@ -1419,6 +1517,18 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
             <numerusform>I tasti del layout attuale vengono sostituiti da quelli di %1. Questa azione non può essere annullata.
 %n tasti non entrano in questo layout e andranno persi.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>Scorciatoie e macro digitano solo nelle applicazioni X.</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>Impossibile salvare le impostazioni.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>Impossibile scrivere %1: %2. Le modifiche restano finché %3 è in esecuzione e vengono salvate appena il file torna scrivibile.</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2027,13 @@ Una sequenza di caratteri definita da te. Il testo può essere un messaggio, cod
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>Un indirizzo senza «https://» si apre come «http://».</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>Questo desktop non indica quale applicazione è in primo piano, quindi le cartelle non possono aprirsi in base all’applicazione. Su Wayland lo fanno sway, Hyprland, KDE Plasma e GNOME (con l’estensione di Keystage).</translation>
     </message>
 </context>
 </TS>

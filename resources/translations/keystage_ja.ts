@@ -261,6 +261,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>ルートページに「%1」というフォルダーはありません。</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>キー %1 はキーパッドにありません（0～%2）。</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>ルートページのキー %1 はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>このページのキー %1 には動作がありません。</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>明るさ %1 は %2～%3 の範囲外です。</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>レイアウト %1 はありません（0～%2）。</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -378,6 +405,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>2 つ目のホットキー用</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>プロセッサー</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリー</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時計</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>ライブ表示:</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>グラフ</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>値の下に直近 1 分間のグラフを表示</translation>
     </message>
 </context>
 <context>
@@ -517,13 +580,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>このデスクトップでは前面のアプリケーションを取得できないため、アプリケーションに応じてフォルダーを開くことはできません。</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -554,6 +610,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>フォルダーは自動では開かなくなりました</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>アプリケーションごとにフォルダーを開きます: 前面のアプリケーションは %1 から通知されます。</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>アプリケーションごとにフォルダーを開きます: 前面のアプリケーションは GNOME Shell 拡張機能 Keystage Focus から通知されます。</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>アプリケーションごとにフォルダーを開くには、「拡張機能」で Keystage Focus を有効にするか、次を実行してください: gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>GNOME でアプリケーションごとにフォルダーを開くには、Keystage の GNOME Shell 拡張機能 (%1) をインストールして有効にしてください。</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>アプリケーションごとにフォルダーを開けません: KWin に問い合わせるセッションバスがありません。</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1212,10 @@ A sequence of characters defined by users. Text string can be text message, sour
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>入力できるようにするには、udev ルール 70-keystage.rules を (パッケージが /usr/lib/udev/rules.d に置いていない場合は /etc/udev/rules.d に) インストールして「sudo udevadm control --reload &amp;&amp; sudo udevadm trigger」を実行するか、X11 セッションにログインしてください。</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>これは Wayland セッションで、/dev/uinput にアクセスできないため、キーは XWayland を通して入力され、X で動くプログラムにしか届きません。すべてのプログラムに届けるには、udev ルール 70-keystage.rules をインストールし（パッケージが /usr/lib/udev/rules.d に置いていない場合は /etc/udev/rules.d へ）、「sudo udevadm control --reload &amp;&amp; sudo udevadm trigger」を実行してから %1 を起動し直してください。</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1233,6 +1316,21 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 キー、横</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>ネット B/s</translation>
     </message>
 </context>
 <context>
@@ -1409,6 +1507,18 @@ A sequence of characters defined by users. Text string can be text message, sour
             <numerusform>現在のレイアウトのキーは %1 のキーで置き換えられます。この操作は元に戻せません。
 %n 個のキーはこのレイアウトに収まらないため失われます。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>ホットキーとマクロは X アプリケーションにしか入力されません。</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>設定を保存できません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>%1 に書き込めません: %2。変更は %3 の実行中は保持され、ファイルに書き込めるようになりしだい保存されます。</translation>
     </message>
 </context>
 <context>
@@ -1907,6 +2017,13 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>「https://」のないアドレスは「http://」として開きます。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>このデスクトップは前面のアプリケーションを知らせないため、アプリケーションごとにフォルダーを開けません。Wayland では sway、Hyprland、KDE Plasma、GNOME（Keystage の拡張機能を使用）が対応しています。</translation>
     </message>
 </context>
 </TS>

@@ -261,6 +261,33 @@
     </message>
 </context>
 <context>
+    <name>ControlAdaptor</name>
+    <message>
+        <source>No folder titled &quot;%1&quot; on the root page.</source>
+        <translation>根頁面上沒有標題為「%1」的資料夾。</translation>
+    </message>
+    <message>
+        <source>Key %1 is not on the keypad (0 to %2).</source>
+        <translation>按鍵面板上沒有按鍵 %1（0 到 %2）。</translation>
+    </message>
+    <message>
+        <source>Key %1 of the root page is not a folder.</source>
+        <translation>根頁面的按鍵 %1 不是資料夾。</translation>
+    </message>
+    <message>
+        <source>Key %1 has no action on this page.</source>
+        <translation>此頁面上的按鍵 %1 沒有動作。</translation>
+    </message>
+    <message>
+        <source>Brightness %1 is outside %2 to %3.</source>
+        <translation>亮度 %1 不在 %2 到 %3 之間。</translation>
+    </message>
+    <message>
+        <source>Layout %1 does not exist (0 to %2).</source>
+        <translation>配置 %1 不存在（0 到 %2）。</translation>
+    </message>
+</context>
+<context>
     <name>Dialog</name>
     <message>
         <source>Dialog</source>
@@ -378,6 +405,42 @@
     <message>
         <source>Of the second hotkey</source>
         <translation>用於第二組快捷鍵</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>處理器</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>記憶體</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>網路</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>時鐘</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Live content:</source>
+        <translation>即時內容：</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>圖表</translation>
+    </message>
+    <message>
+        <source>A graph of the last minute under the value</source>
+        <translation>在數值下方顯示最近一分鐘的圖表</translation>
     </message>
 </context>
 <context>
@@ -517,13 +580,6 @@
     </message>
 </context>
 <context>
-    <name>FolderCondition</name>
-    <message>
-        <source>This desktop does not tell which application is in front, so folders cannot open by application.</source>
-        <translation>此桌面環境不提供前景應用程式的資訊，因此資料夾無法依應用程式自動開啟。</translation>
-    </message>
-</context>
-<context>
     <name>FolderForm</name>
     <message>
         <source>Folder</source>
@@ -554,6 +610,29 @@
     <message>
         <source>The folder no longer opens by itself</source>
         <translation>此資料夾不再自動開啟</translation>
+    </message>
+</context>
+<context>
+    <name>ForegroundSource</name>
+    <message>
+        <source>Folders open by application: %1 tells which is in front.</source>
+        <translation>資料夾會依應用程式開啟：%1 會告知哪個應用程式在前景。</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
+        <translation>資料夾會依應用程式開啟：GNOME Shell 擴充套件 Keystage Focus 會告知哪個應用程式在前景。</translation>
+    </message>
+    <message>
+        <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
+        <translation>若要依應用程式開啟資料夾，請在「擴充套件」中啟用 Keystage Focus，或執行：gnome-extensions enable %1</translation>
+    </message>
+    <message>
+        <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
+        <translation>若要在 GNOME 上依應用程式開啟資料夾，請安裝 Keystage 的 GNOME Shell 擴充套件（%1）並啟用它。</translation>
+    </message>
+    <message>
+        <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
+        <translation>資料夾無法依應用程式開啟：沒有可詢問 KWin 的工作階段匯流排。</translation>
     </message>
 </context>
 <context>
@@ -1133,6 +1212,10 @@ A sequence of characters defined by users. Text string can be text message, sour
         <source>To let them type, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d) and run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot;, or log in to an X11 session.</source>
         <translation>若要讓它們能夠輸入，請安裝 udev 規則 70-keystage.rules (放到 /etc/udev/rules.d，除非已有套件將它放在 /usr/lib/udev/rules.d) 並執行「sudo udevadm control --reload &amp;&amp; sudo udevadm trigger」，或登入 X11 工作階段。</translation>
     </message>
+    <message>
+        <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
+        <translation>這是 Wayland 工作階段，由於無法存取 /dev/uinput，按鍵會透過 XWayland 輸入，只有在 X 下執行的程式才會收到。若要讓所有程式都收到，請安裝 udev 規則 70-keystage.rules（放到 /etc/udev/rules.d，除非套件已將它放在 /usr/lib/udev/rules.d），執行「sudo udevadm control --reload &amp;&amp; sudo udevadm trigger」，然後重新啟動 %1。</translation>
+    </message>
 </context>
 <context>
     <name>LanguagePage</name>
@@ -1233,6 +1316,21 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>%1 keys, horizontal</source>
         <translation>%1 鍵，橫向</translation>
+    </message>
+</context>
+<context>
+    <name>LiveFacePainter</name>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>RAM</source>
+        <translation>記憶體</translation>
+    </message>
+    <message>
+        <source>Net B/s</source>
+        <translation>網路 B/s</translation>
     </message>
 </context>
 <context>
@@ -1409,6 +1507,18 @@ A sequence of characters defined by users. Text string can be text message, sour
             <numerusform>目前配置的按鍵將被 %1 中的按鍵取代。此動作無法復原。
 有 %n 個按鍵放不進此配置，將會遺失。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Hotkeys and macros type into X applications only.</source>
+        <translation>快捷鍵與巨集只能輸入到 X 應用程式。</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved.</source>
+        <translation>無法儲存您的設定。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
+        <translation>無法寫入 %1：%2。在 %3 執行期間會保留您的變更，並在檔案可再次寫入時立即儲存。</translation>
     </message>
 </context>
 <context>
@@ -1907,6 +2017,13 @@ A sequence of characters defined by users. Text string can be text message, sour
     <message>
         <source>An address without &quot;https://&quot; opens as &quot;http://&quot;.</source>
         <translation>沒有「https://」的網址會以「http://」開啟。</translation>
+    </message>
+</context>
+<context>
+    <name>WindowSystem</name>
+    <message>
+        <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
+        <translation>此桌面不會告知哪個應用程式在前景，因此資料夾無法依應用程式開啟。在 Wayland 上，sway、Hyprland、KDE Plasma 與 GNOME（搭配 Keystage 的擴充套件）可以做到。</translation>
     </message>
 </context>
 </TS>

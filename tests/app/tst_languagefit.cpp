@@ -542,7 +542,10 @@ private:
         favorite->onResetAllBtnClicked();
         // An import that would overflow the list asks first.
         FavoriteKeyItemModel* favorites = window->favorites();
-        favorites->appendKeyItemFromImportedFile({{QStringLiteral("KeyCnt"), FavoriteKeyItemModel::MaxItems + 1}});
+        QVariantMap overflowing{{QStringLiteral("KeyCnt"), FavoriteKeyItemModel::MaxItems + 1}};
+        for (int i = 0; i <= FavoriteKeyItemModel::MaxItems; ++i)
+            overflowing.insert(QStringLiteral("keyMap_%1").arg(i), QVariantMap{{QStringLiteral("item"), i}});
+        favorites->appendKeyItemFromImportedFile(overflowing);
         // ... and a full list says so.
         QVERIFY(favorites->count() > 0);
         while (favorites->count() < FavoriteKeyItemModel::MaxItems)

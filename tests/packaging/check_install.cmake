@@ -14,11 +14,15 @@ endif()
 set(mime_types application/x-keystage-layout application/x-keystage-favorites)
 set(expected
     bin/keystage
+    bin/keystagectl
     lib/udev/rules.d/70-keystage.rules
     share/applications/${APP_ID}.desktop
     share/metainfo/${APP_ID}.metainfo.xml
     share/mime/packages/keystage.xml
     share/man/man1/keystage.1
+    share/man/man1/keystagectl.1
+    share/gnome-shell/extensions/keystage-focus@vantorix.io/extension.js
+    share/gnome-shell/extensions/keystage-focus@vantorix.io/metadata.json
     share/icons/hicolor/scalable/apps/${APP_ID}.svg)
 foreach(type IN LISTS mime_types)
     string(REPLACE "/" "-" icon ${type})

@@ -94,9 +94,10 @@ FaceEditor::FaceEditor(KeyItemEditor* editor, int slot, const QString& titleLabe
     auto* liveRow = new QHBoxLayout;
     liveRow->addWidget(liveCaption);
     liveRow->addWidget(m_live);
-    liveRow->addWidget(m_graph);
     liveRow->addStretch(1);
     layout->addLayout(liveRow);
+    // Its own line: beside the list it would widen the narrowest forms.
+    layout->addWidget(m_graph);
 
     if (slot == 1) {
         for (QWidget* control :

@@ -31,11 +31,10 @@ LaunchForm::LaunchForm(KeyItemEditor* editor, QWidget* parent) : KeyItemForm(edi
     m_file->setAccessibleName(m_file->text());
     m_application = new QPushButton(tr("Choose application…"), this);
     m_application->setAccessibleName(m_application->text());
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_file);
-    row->addWidget(m_application);
-    row->addStretch(1);
-    body()->addLayout(row);
+    // One above the other: side by side they widen the column in the longer
+    // languages once the live face controls make the form scroll.
+    body()->addWidget(m_file, 0, Qt::AlignLeft);
+    body()->addWidget(m_application, 0, Qt::AlignLeft);
     connect(m_file, &QPushButton::clicked, this, &LaunchForm::chooseFile);
     connect(m_application, &QPushButton::clicked, this, &LaunchForm::chooseApplication);
 
