@@ -4,6 +4,7 @@
 //  - the whole page as sent, against the floor the protocol's pauses set;
 //  - key report to keyPressed latency through the device thread;
 //  - processor use of the idle polling thread, with a keypad open and none.
+#include "benchhome.h"
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
 #include "keyfacerenderer.h"
@@ -163,13 +164,10 @@ void idleCpu(const char* what, int seconds)
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useScratchHome(home);
+    preferOffscreen();
     QGuiApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
-    QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
+    nameAsProgram();
 
     QObject mainWindow;
     Log log;

@@ -4,6 +4,7 @@
 // already shown (the form only reads the key again) and switching the
 // palette's description (the panel the area showed before forms existed).
 // Goal: a form switch under 16 ms, one frame.
+#include "benchhome.h"
 #include "buttonlayoutconfig.h"
 #include "formarea.h"
 #include "keyitem.h"
@@ -56,13 +57,10 @@ void measure(const char* name, FormArea& area, const std::function<void(int roun
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useScratchHome(home);
+    preferOffscreen();
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
-    QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
+    nameAsProgram();
     QFile style(QStringLiteral(":/style/keystage.qss"));
     if (style.open(QIODevice::ReadOnly | QIODevice::Text))
         app.setStyleSheet(QString::fromUtf8(style.readAll()));

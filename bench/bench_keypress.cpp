@@ -7,6 +7,7 @@
 // watcher, is measured in the same run, interleaved with the presses. Needs
 // an X server; run it as
 //   scripts/with-xvfb.sh -- build/bench/bench_keypress [presses]
+#include "benchhome.h"
 #include "buttonlayoutconfig.h"
 #include "hid_comm.h"
 #include "ka_hotkey.h"
@@ -191,8 +192,7 @@ void makeTitledWindowActive(Display* display)
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
+    useScratchHome(home);
     if (qEnvironmentVariableIsEmpty("DISPLAY")) {
         std::fprintf(stderr, "bench_keypress needs an X server: scripts/with-xvfb.sh -- %s\n", argv[0]);
         return 1;
@@ -200,8 +200,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("QT_XCB_GL_INTEGRATION", "none");
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
-    QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
+    nameAsProgram();
     const int presses = argc > 1 ? std::max(20, atoi(argv[1])) : 300;
     constexpr int WarmUp = 10;
 

@@ -7,6 +7,7 @@
 //    as the keypad requires: that share is shown apart;
 //  - the same keys only on a page not shown: nothing samples, nothing wakes.
 // Usage: bench_livefaces [seconds per phase, default 60]
+#include "benchhome.h"
 #include "buttonlayoutconfig.h"
 #include "facehints.h"
 #include "hid_comm.h"
@@ -157,13 +158,10 @@ void addFourLiveKeys(KeyItemModel& model)
 int main(int argc, char** argv)
 {
     QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
-    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useScratchHome(home);
+    preferOffscreen();
     QGuiApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Vantorix"));
-    QCoreApplication::setApplicationName(QStringLiteral("Keystage"));
+    nameAsProgram();
     const int seconds = argc > 1 ? qMax(1, QByteArray(argv[1]).toInt()) : 60;
 
     QObject mainWindow;
