@@ -43,6 +43,7 @@
 #include <QHideEvent>
 #include <QIcon>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QSettings>
@@ -531,21 +532,49 @@ Log* MainWindow::log()
     return &m_log;
 }
 
+namespace {
+
+// Each language: our own texts, and the locale of Qt's own (the context
+// menus of text fields, the colour and file dialogs) from Debian's
+// qttranslations5-l10n.
+struct UiLanguage
+{
+    const char* file;
+    const char* qtLocale;
+};
+constexpr UiLanguage UiLanguages[] = {{":/translator/en-us.qm", "en"},    {":/translator/ja.qm", "ja"},
+                                      {":/translator/zh-TW.qm", "zh_TW"}, {":/translator/it.qm", "it"},
+                                      {":/translator/de.qm", "de"},       {":/translator/fr.qm", "fr"}};
+
+void installQtTranslator(int langIdx)
+{
+    static QTranslator qtTexts;
+    const QString name = QStringLiteral("qtbase_") + QLatin1String(UiLanguages[langIdx].qtLocale);
+    if (qtTexts.load(name, QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&qtTexts);
+    else
+        QCoreApplication::removeTranslator(&qtTexts);
+    if (qtTexts.isEmpty() && langIdx != 0)
+        LOG_MSG(QStringLiteral("Qt's own texts stay English: no %1.qm (package qttranslations5-l10n)").arg(name));
+}
+
+} // namespace
+
 void MainWindow::installTranslator(QTranslator* translator, int langIdx)
 {
     const QString file = translationFile(langIdx);
-    if (translator && !file.isEmpty() && translator->load(file))
+    if (translator && !file.isEmpty() && translator->load(file)) {
         QCoreApplication::installTranslator(translator);
+        installQtTranslator(langIdx);
+    }
     LOG_MSG(QStringLiteral("lang idx: %1").arg(langIdx));
 }
 
 QString MainWindow::translationFile(int langIdx)
 {
-    static const char* const files[] = {":/translator/en-us.qm", ":/translator/ja.qm", ":/translator/zh-TW.qm",
-                                        ":/translator/it.qm",    ":/translator/de.qm", ":/translator/fr.qm"};
-    if (langIdx < 0 || langIdx >= int(std::size(files)))
+    if (langIdx < 0 || langIdx >= int(std::size(UiLanguages)))
         return QString();
-    return QLatin1String(files[langIdx]);
+    return QLatin1String(UiLanguages[langIdx].file);
 }
 
 void MainWindow::setRestartFlag(bool restart)
