@@ -24,6 +24,9 @@ set(expected
     share/gnome-shell/extensions/keystage-focus@vantorix.io/extension.js
     share/gnome-shell/extensions/keystage-focus@vantorix.io/metadata.json
     share/icons/hicolor/scalable/apps/${APP_ID}.svg)
+foreach(lang de fr it ja zh_TW)
+    list(APPEND expected share/man/${lang}/man1/keystage.1 share/man/${lang}/man1/keystagectl.1)
+endforeach()
 foreach(type IN LISTS mime_types)
     string(REPLACE "/" "-" icon ${type})
     list(APPEND expected share/icons/hicolor/scalable/mimetypes/${icon}.svg)
