@@ -32,8 +32,8 @@ QMap<QString, QString> desktopEntry()
     return entry;
 }
 
-// What a launcher runs for Exec with one file, or none, as the desktop entry
-// specification says: quoted arguments, %f as one argument or nothing, %%.
+// What a launcher runs for Exec with one file, or none, by freedesktop.org's
+// Desktop Entry rules: quoted arguments, %f as one argument or nothing, %%.
 QStringList launchArguments(const QString& exec, const QString& file)
 {
     QStringList arguments;
