@@ -1,14 +1,16 @@
 #include "logcapture.h"
 
-#include <atomic>
-
 namespace {
-// Read by the handler on whichever thread logs.
-std::atomic<LogCapture*> active{nullptr};
+// The handler runs on whichever thread logs. One lock covers both the
+// capture in use and its list, so a capture ending on the test's thread
+// waits for a message being added on another and is never used after.
+QMutex activeMutex;
+LogCapture* active = nullptr;
 } // namespace
 
 LogCapture::LogCapture()
 {
+    QMutexLocker locker(&activeMutex);
     active = this;
     m_previous = qInstallMessageHandler(&LogCapture::handler);
 }
@@ -16,21 +18,20 @@ LogCapture::LogCapture()
 LogCapture::~LogCapture()
 {
     qInstallMessageHandler(m_previous);
+    QMutexLocker locker(&activeMutex);
     active = nullptr;
 }
 
 void LogCapture::handler(QtMsgType, const QMessageLogContext&, const QString& message)
 {
-    LogCapture* capture = active.load();
-    if (!capture)
-        return;
-    QMutexLocker locker(&capture->m_mutex);
-    capture->m_messages << message;
+    QMutexLocker locker(&activeMutex);
+    if (active)
+        active->m_messages << message;
 }
 
 QStringList LogCapture::messages() const
 {
-    QMutexLocker locker(&m_mutex);
+    QMutexLocker locker(&activeMutex);
     // A list of its own: one that shared its data with m_messages would give
     // it up outside the lock while the handler appends on another thread.
     QStringList copy = m_messages;

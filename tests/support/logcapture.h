@@ -18,7 +18,6 @@ public:
 private:
     static void handler(QtMsgType type, const QMessageLogContext& context, const QString& message);
 
-    mutable QMutex m_mutex;
     QStringList m_messages;
     QtMessageHandler m_previous = nullptr;
 };
