@@ -137,6 +137,8 @@ void AgentCore::createLiveFaces()
     LiveFaceUpdater* liveFaces = m_liveFaces.get();
     connect(m_sleepMonitor, &SleepMonitor::aboutToSleep, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(true); });
     connect(m_sleepMonitor, &SleepMonitor::resumed, liveFaces, [liveFaces] { liveFaces->setSystemAsleep(false); });
+    connect(m_keyAction.get(), &KeyAction::pressedLookChanged, liveFaces, &LiveFaceUpdater::setPressedLook,
+            Qt::QueuedConnection);
 }
 
 void AgentCore::stop()

@@ -77,7 +77,6 @@ MainWindow::MainWindow(QSettings* settings, bool runInBackground, QWidget* paren
 
     createCore();
     buildWindow();
-    buildEditor();
     connectCore();
     setupTray();
     setupVirtualKeypad();
@@ -200,6 +199,22 @@ void MainWindow::buildWindow()
     setKeyPanelSize(ButtonLayoutConfig::panelSize(layoutConfig()->currentLayout()));
 }
 
+// The editor's widgets are made the first time the window is shown (or asked
+// for): a program started in the background at login may never show them, and
+// they hold much of its memory.
+void MainWindow::setVisible(bool visible)
+{
+    if (visible)
+        ensureEditor();
+    QWidget::setVisible(visible);
+}
+
+void MainWindow::ensureEditor()
+{
+    if (!m_grid)
+        buildEditor();
+}
+
 // The editor: the key grid on the left; on the right the action palette, the
 // form area and the folder tree. The layout in force was read before, so the
 // grid is built for it here.
@@ -259,6 +274,12 @@ void MainWindow::connectEditor()
             showFunctionDescription(actionType, true);
     });
     connect(m_actionList, &ActionList::favoriteWindowRequested, m_favorite, &Favorite::bringWindowToFront);
+    connect(m_actionList, &ActionList::preferenceRequested, m_preferences, &PreferenceLauncher::open);
+
+    connect(m_core->keyAction(), &KeyAction::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
+            Qt::QueuedConnection);
+    // Live keys redraw in the grid as on the keypad.
+    connect(m_core->liveFaces(), &LiveFaceUpdater::faceChanged, m_grid, &KeyItemGridView::onUpdateContent);
 }
 
 // "&Save as favorite" shows the new item at the end of the pad; Enter on a
@@ -284,13 +305,9 @@ void MainWindow::connectFavorites()
 // state in the status line.
 void MainWindow::connectCore()
 {
-    connect(m_core->keyAction(), &KeyAction::updateContent, m_grid, &KeyItemGridView::onUpdateContent,
-            Qt::QueuedConnection);
     // Away from the editor, no key stays selected under a stale description.
     connect(m_core->folderCondition(), &FolderCondition::functionDescriptionWanted, this,
             [this](int actionType) { showFunctionDescription(actionType, true); });
-    // Live keys redraw in the grid as on the keypad.
-    connect(m_core->liveFaces(), &LiveFaceUpdater::faceChanged, m_grid, &KeyItemGridView::onUpdateContent);
     KeypadStatus* status = m_core->keypadStatus();
     connect(status, &KeypadStatus::stateChanged, this, &MainWindow::showKeypadStatus);
     showKeypadStatus(status->state());
@@ -298,6 +315,9 @@ void MainWindow::connectCore()
 
 void MainWindow::showFunctionDescription(int actionType, bool cancelSelection)
 {
+    // An editor not made yet starts with no selection and the drag hint.
+    if (!m_grid)
+        return;
     if (cancelSelection)
         m_grid->cancelSelectedKeyButton(false);
     m_formArea->showFunctionDescription(actionType);
@@ -463,7 +483,6 @@ void MainWindow::setupPreferences()
     context.importFile = [this](const QString& path) { openExtensionFile(path); };
     context.restart = [this] { restartApplication(); };
     m_preferences = new PreferenceLauncher(context, this);
-    connect(m_actionList, &ActionList::preferenceRequested, m_preferences, &PreferenceLauncher::open);
     connect(m_tray, &TrayIcon::settingsRequested, m_preferences, &PreferenceLauncher::open);
 }
 
@@ -499,26 +518,31 @@ void MainWindow::setKeypadStatus(const QString& text, const QString& state)
 
 KeyItemGridView* MainWindow::keyGrid() const
 {
+    const_cast<MainWindow*>(this)->ensureEditor();
     return m_grid;
 }
 
 ActionList* MainWindow::actionList() const
 {
+    const_cast<MainWindow*>(this)->ensureEditor();
     return m_actionList;
 }
 
 Favorite* MainWindow::favoriteWindow() const
 {
+    const_cast<MainWindow*>(this)->ensureEditor();
     return m_favorite;
 }
 
 FormArea* MainWindow::formArea() const
 {
+    const_cast<MainWindow*>(this)->ensureEditor();
     return m_formArea;
 }
 
 TreeView* MainWindow::treeView() const
 {
+    const_cast<MainWindow*>(this)->ensureEditor();
     return m_treeView;
 }
 
@@ -673,7 +697,8 @@ void MainWindow::quitApplication()
     if (m_settings)
         m_settings->sync();
     m_tray->setVisible(false);
-    m_favorite->hide();
+    if (m_favorite)
+        m_favorite->hide();
     close();
     QCoreApplication::quit();
 }
@@ -698,12 +723,21 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::hideToBackground()
 {
-    m_favorite->hide();
+    if (m_favorite)
+        m_favorite->hide();
     // Without a tray host a hidden window could not be reached again.
-    if (TrayIcon::isTrayAvailable())
-        hide();
-    else
+    if (!TrayIcon::isTrayAvailable()) {
         showMinimized();
+        return;
+    }
+    hide();
+    // In the tray for hours, maybe: the window's picture, megabytes of memory
+    // shared with the display server, goes with its native window, which is
+    // made again when the window comes back.
+    QTimer::singleShot(0, this, [this] {
+        if (isHidden())
+            destroy();
+    });
 }
 
 void MainWindow::toggleFromTray()

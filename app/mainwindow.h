@@ -37,6 +37,8 @@ public:
     MainWindow(QSettings* settings, bool runInBackground, QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    void setVisible(bool visible) override;
+
     // Loads the translation of a language index (0..5) into the translator
     // and installs it; any other index keeps the built-in texts.
     static void installTranslator(QTranslator* translator, int langIdx);
@@ -56,6 +58,7 @@ public:
     // or "virtual".
     void setKeypadStatus(const QString& text, const QString& state = QString());
 
+    // The editor's parts, made on first use.
     KeyItemGridView* keyGrid() const;
     ActionList* actionList() const;
     FormArea* formArea() const;
@@ -98,6 +101,7 @@ protected:
 private:
     void createCore();
     void buildWindow();
+    void ensureEditor();
     void buildEditor();
     void connectEditor();
     void connectFavorites();

@@ -151,8 +151,14 @@ int Startup::run(int& argc, char** argv)
     MainWindow window(&settings, flags[RunInBackground]);
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window.setAttribute(Qt::WA_TranslucentBackground);
-    window.show();
-    // The xcb platform reads the switch when it makes its first window.
+    // In the background from the start the window is not even mapped: it
+    // would flash on screen, and its editor would be made for nothing. Its
+    // native window is made all the same, as the xcb platform reads the
+    // switch when it makes its first one.
+    if (flags[RunInBackground])
+        window.winId();
+    else
+        window.show();
     forgetOpenGlSwitch(openGlSwitchedOff);
     // After the window, before the loop: calls are answered once it runs.
     const ControlService control(window.core(), sessionBusIfAny());

@@ -72,6 +72,9 @@ void VirtualKeypad::setActive(bool active)
             m_keypad = m_ownKeypad.get();
         }
         m_keypad->setProductId(productId);
+        // Tests read the keypad's traffic log; on screen it would only hold
+        // the last thousand reports, images and all.
+        m_keypad->setReportLogLimit(0);
         if (!m_window) {
             m_window = std::make_unique<VirtualKeypadWindow>(m_keypad, m_layouts);
             connect(m_window.get(), &VirtualKeypadWindow::closed, this, [this] { setActive(false); });

@@ -2,9 +2,8 @@
 //  - the floor: the same process with no live key (the device thread polls);
 //  - four live keys on the current page (processor, memory and network with
 //    their graphs, clock): processor use of sampling, drawing and sending above the
-//    floor, and image writes per live key per second counted at the keypad;
-//    every image write busy-waits 2 ms per 8000-byte chunk (4 ms for a key),
-//    as the keypad requires: that share is shown apart;
+//    floor, and image writes per live key per second counted at the keypad
+//    (each write also waits 2 ms per 8000-byte chunk, asleep);
 //  - the same keys only on a page not shown: nothing samples, nothing wakes.
 // Usage: bench_livefaces [seconds per phase, default 60]
 #include "benchhome.h"
@@ -98,8 +97,6 @@ struct Phase
     double guiPercent = 0;     // drawing and sending
     double samplerPercent = 0; // reading /proc
     int writes = 0;
-    // The protocol's busy waits: 2 ms after each 8000-byte chunk of an image.
-    double pausePercent = 0;
     int samples = 0;
     long samplerSwitches = 0;
 };
@@ -125,7 +122,6 @@ Phase run(int seconds, SimulatedKeypad& keypad, SysMonitor& monitor)
     phase.guiPercent = 100.0 * (threadCpuSeconds() - guiBefore) / seconds;
     phase.samplerPercent = 100.0 * (namedThreadCpuSeconds("SysMonitor") - samplerBefore) / seconds;
     phase.writes = keypad.reportCount(SimulatedKeypad::ReportKind::ShowImage);
-    phase.pausePercent = 100.0 * keypad.reportCount(SimulatedKeypad::ReportKind::DataChunkLarge) * 0.002 / seconds;
     phase.samples = monitor.sampleCount() - samplesBefore;
     phase.samplerSwitches = threadSwitches("SysMonitor") - switchesBefore;
     return phase;
@@ -200,8 +196,6 @@ int main(int argc, char** argv)
                 shown.cpuPercent - floor.cpuPercent);
     std::printf("    GUI thread (drawing, sending) %.3f %% (floor %.3f %%), sampler thread %.3f %%\n", shown.guiPercent,
                 floor.guiPercent, shown.samplerPercent);
-    std::printf("    of which the protocol's busy waits: %.3f %%; without them %.3f %% above the floor\n",
-                shown.pausePercent, shown.cpuPercent - floor.cpuPercent - shown.pausePercent);
     std::printf("    %d samples, %d image writes: %.3f per live key per second\n", shown.samples, shown.writes,
                 double(shown.writes) / 4.0 / seconds);
 

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Memory of the tray agent: starts the built program on a private Xvfb server
-# (with openbox, no tray host) with the simulated keypad, in the background as at login ("--runinbk"),
-# and reads /proc/PID/smaps_rollup after a while. Twice: never showing the
-# editor, and after the editor has been shown once and sent back.
+# (with openbox and a stand-in system tray, build/bench/trayhost) with the
+# simulated keypad, in the background as at login ("--runinbk"), and reads
+# /proc/PID/smaps_rollup after a while. Twice: never showing the editor, and
+# after the editor has been shown once and closed to the tray.
 #   bench/memory.sh [build/app/keystage] [seconds, default 60]
-# Goal: Rss <= 40 MB and Private_Dirty <= 12 MB in both runs.
+# Goal: Rss <= 40 MB and Private_Dirty <= 12 MB in the tray.
 set -euo pipefail
 
 here=$(cd "$(dirname "$0")" && pwd)
@@ -12,6 +13,8 @@ program=$(realpath "${1:-$here/../build/app/keystage}")
 seconds=${2:-60}
 [ -x "$program" ] || { echo "memory.sh: no program at $program (build the keystage target)" >&2; exit 2; }
 command -v xdotool >/dev/null || { echo "memory.sh: needs xdotool" >&2; exit 2; }
+trayhost=$(dirname "$program")/../bench/trayhost
+[ -x "$trayhost" ] || { echo "memory.sh: no tray at $trayhost (build the trayhost target)" >&2; exit 2; }
 
 if [ -z "${KEYSTAGE_MEMORY_INNER:-}" ]; then
     export KEYSTAGE_MEMORY_INNER=1
@@ -21,8 +24,11 @@ fi
 
 workdir=$(mktemp -d)
 agent=""
+"$trayhost" &
+tray=$!
 cleanup() {
     [ -n "$agent" ] && kill "$agent" 2>/dev/null && wait "$agent" 2>/dev/null || true
+    kill "$tray" 2>/dev/null || true
     rm -rf "$workdir"
 }
 trap cleanup EXIT
@@ -46,18 +52,22 @@ run() {
                XDG_RUNTIME_DIR="$home/runtime" TMPDIR="$home/tmp" QT_QPA_PLATFORM=xcb)
     env "${env[@]}" "$workdir/keystage-membench" --runinbk --virtual-keypad >"$home/out.log" 2>&1 &
     agent=$!
-    # The window exists once start-up is done.
-    xdotool search --sync --limit 1 --pid "$agent" >/dev/null
+    # The on-screen keypad's window shows once start-up is done.
+    xdotool search --sync --onlyvisible --limit 1 --pid "$agent" >/dev/null
     if [ "$showEditor" = 1 ]; then
         sleep 2
         # A second start brings the editor to the front (and quits itself).
         env "${env[@]}" "$workdir/keystage-membench" >>"$home/out.log" 2>&1 || true
-        sleep 3
         local window
-        # Back to the background as the close button sends it without a tray
-        # host (Xvfb has none): minimised.
-        for window in $(xdotool search --onlyvisible --pid "$agent"); do
-            xdotool windowminimize "$window" 2>/dev/null || true
+        window=$(xdotool search --sync --onlyvisible --limit 1 --pid "$agent" --name "^Keystage$")
+        sleep 3
+        # Closed as a user closes it (the window manager's Alt+F4): to the tray.
+        xdotool windowactivate --sync "$window" key alt+F4 2>/dev/null
+        local tries=0
+        while xdotool search --onlyvisible --pid "$agent" --name "^Keystage$" >/dev/null; do
+            tries=$((tries + 1))
+            [ "$tries" -lt 50 ] || { echo "memory.sh: the editor did not go to the tray" >&2; exit 1; }
+            sleep 0.2
         done
     fi
     sleep "$seconds"

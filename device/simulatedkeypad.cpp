@@ -427,14 +427,18 @@ int SimulatedKeypad::pendingInputReports() const
 
 QImage SimulatedKeypad::keyImage(int deviceKey) const
 {
-    QMutexLocker locker(&m_mutex);
-    return m_keys.value(deviceKey).image;
+    QByteArray bytes;
+    {
+        QMutexLocker locker(&m_mutex);
+        bytes = m_keys.value(deviceKey);
+    }
+    return bytes.isEmpty() ? QImage() : QImage::fromData(bytes);
 }
 
 QByteArray SimulatedKeypad::keyImageBytes(int deviceKey) const
 {
     QMutexLocker locker(&m_mutex);
-    return m_keys.value(deviceKey).bytes;
+    return m_keys.value(deviceKey);
 }
 
 QList<int> SimulatedKeypad::keysWithImages() const
@@ -808,12 +812,12 @@ void SimulatedKeypad::showImage(const QByteArray& report, Notices& notices)
             QStringLiteral("image of %1 bytes for key %2, but %3 bytes received!!").arg(size).arg(key).arg(received)));
         return;
     }
-    const QImage image = QImage::fromData(object);
-    if (image.isNull()) {
+    if (QImage::fromData(object).isNull()) {
         LOG_MSG(noteError(QStringLiteral("image for key %1 cannot be decoded!!").arg(key)));
         return;
     }
-    m_keys.insert(int(key), {image, object});
+    // Kept as sent, decoded when asked for: half the memory of a decoded copy.
+    m_keys.insert(int(key), object);
     m_logoShown = false;
     notices << [this, key] { emit keyImageChanged(int(key)); };
 }

@@ -206,11 +206,6 @@ private:
     {
         quint64 enumeration = 0;
     };
-    struct KeyImage
-    {
-        QImage image;
-        QByteArray bytes;
-    };
     struct QueuedInput
     {
         ReportKind kind = ReportKind::Unknown;
@@ -282,7 +277,7 @@ private:
     qint64 m_pendingReceived = 0;
 
     // Display and identity
-    QMap<int, KeyImage> m_keys;
+    QMap<int, QByteArray> m_keys; // by device key, the image as sent
     int m_backlight = -1;
     bool m_logoShown = false;
     int m_logoCount = 0;

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <ctime>
 #include <new>
 #include <vector>
 
@@ -68,11 +69,18 @@ bool VTHidDev::isDeviceOpen()
     return handle() != nullptr;
 }
 
+// The keypad takes no shorter gap than asked for; the monotonic clock says
+// when the gap is over. The thread sleeps meanwhile rather than spinning:
+// Linux's high-resolution timers wake it within tens of microseconds, and a
+// spinning thread would burn a core for every image a live key sends.
 void VTHidDev::delayMs(int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < milliseconds) {
+    const qint64 wanted = qint64(milliseconds) * 1000000;
+    for (qint64 left = wanted; left > 0; left = wanted - timer.nsecsElapsed()) {
+        const timespec pause{time_t(left / 1000000000), long(left % 1000000000)};
+        nanosleep(&pause, nullptr);
     }
 }
 

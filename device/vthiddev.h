@@ -68,8 +68,8 @@ public:
     // True while the shared handle is open (whichever object opened it).
     static bool isDeviceOpen();
 
-    // The protocol's pauses: a busy wait, because the keypad tolerates no
-    // shorter gap and sleeping is too coarse for one or two milliseconds.
+    // The protocol's pauses: at least this long, never shorter, as the
+    // keypad tolerates no shorter gap.
     static void delayMs(int milliseconds);
 
     unsigned vid = 0;

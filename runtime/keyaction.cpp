@@ -109,6 +109,7 @@ void KeyAction::onKeyPressed(int devKeyId)
         }
     }
     if (action) {
+        emit pressedLookChanged(button, true);
         showFace(face, layout, button, true);
         action->doAction(0);
     }
@@ -135,6 +136,7 @@ void KeyAction::onKeyRleased(int devKeyId)
     model->beginUpdate();
     KeyItem* item = configuredItem(model, button);
     const bool toggled = item && item->multiFeatureFlag;
+    emit pressedLookChanged(button, false);
     if (toggled)
         item->cfIdx = (item->cfIdx + 1) % KeyItem::SlotCount;
     else if (item)

@@ -27,6 +27,10 @@ public:
 
 signals:
     void updateContent(const KeyItem* keyItem);
+    // A button of the current page shows its pressed look (a performed press)
+    // or its own face again. Emitted before the face is queued, so whoever
+    // redraws the key meanwhile draws the look the keypad is about to show.
+    void pressedLookChanged(int keyIdx, bool pressed);
 
 public slots:
     void onKeyPressed(int devKeyId);

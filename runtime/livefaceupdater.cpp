@@ -72,6 +72,14 @@ void LiveFaceUpdater::setEditorVisible(bool visible)
     updateDemand();
 }
 
+void LiveFaceUpdater::setPressedLook(int keyIdx, bool pressed)
+{
+    if (pressed)
+        m_pressed.insert(keyIdx);
+    else
+        m_pressed.remove(keyIdx);
+}
+
 void LiveFaceUpdater::setSystemAsleep(bool asleep)
 {
     if (m_asleep == asleep)
@@ -157,7 +165,7 @@ void LiveFaceUpdater::sendPending()
     for (int keyIdx : qAsConst(m_pending)) {
         const int deviceKey = Hid_Comm::deviceKeyNumber(layout, keyIdx);
         if (deviceKey >= 0)
-            m_hid->sendIcon(deviceKey, m_drawn.value(keyIdx), false);
+            m_hid->sendIcon(deviceKey, m_drawn.value(keyIdx), m_pressed.contains(keyIdx));
     }
     m_pending.clear();
 }

@@ -45,6 +45,8 @@ public:
 
 public slots:
     void setEditorVisible(bool visible);
+    // A held key keeps its pressed look while its figure changes.
+    void setPressedLook(int keyIdx, bool pressed);
     // The computer going to sleep and back: nothing is sampled or sent
     // meanwhile.
     void setSystemAsleep(bool asleep);
@@ -87,4 +89,5 @@ private:
     // to be sent.
     QHash<int, QImage> m_drawn;
     QSet<int> m_pending;
+    QSet<int> m_pressed;
 };

@@ -172,6 +172,25 @@ private slots:
         QCOMPARE(fx.keypad->errorCount(), 0);
     }
 
+    // A held live key changes its figure under the pressed look, and shows it
+    // plainly again once let go.
+    void shouldKeepAHeldKeysPressedLook()
+    {
+        liveKey(CpuKey, LiveKind::Processor);
+        settle();
+        QTRY_VERIFY_WITH_TIMEOUT(monitor->sampleCount() == 1, Patience);
+        const int deviceKey = Hid_Comm::deviceKeyNumber(H_Key_15, CpuKey);
+        const auto plainFace = [this] {
+            return asShown(Hid_Comm::orientForLayout(KeyFaceRenderer::render(fx.model->keyItemAt(CpuKey)), H_Key_15));
+        };
+        updater->setPressedLook(CpuKey, true);
+        sendFigures(readings(55, 0));
+        QVERIFY(asShown(fx.keypad->keyImage(deviceKey)) != plainFace());
+        updater->setPressedLook(CpuKey, false);
+        sendFigures(readings(56, 0));
+        QCOMPARE(asShown(fx.keypad->keyImage(deviceKey)), plainFace());
+    }
+
     void shouldSendNothingWhileDimmedAndCatchUpOnWaking()
     {
         liveKey(CpuKey, LiveKind::Processor);
