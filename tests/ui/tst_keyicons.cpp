@@ -122,13 +122,6 @@ class KeyIconsTest : public QObject, KeyModelFixture
         *picked = chooser.chosenImage();
     }
 
-    const KeyItem* reloadedItem(KeyItemModel* reloaded)
-    {
-        reloaded->reloadKeyItemsFromSettings();
-        reloaded->changeLayoutButtonView(V_Key_15);
-        return reloaded->keyItemAt(Key);
-    }
-
 private slots:
     void initTestCase()
     {
@@ -322,7 +315,7 @@ private slots:
         QCOMPARE(drawn, 10);
     }
 
-    void shouldKeepAnIconFromEverySourceThroughSaveAndImport_data()
+    void shouldPutAnIconFromEverySourceOnTheKey_data()
     {
         QTest::addColumn<int>("source");
         QTest::addColumn<QString>("what");
@@ -341,7 +334,7 @@ private slots:
         QTest::newRow("emoji") << int(IconChooser::Emoji) << "grinning" << QColor() << true;
     }
 
-    void shouldKeepAnIconFromEverySourceThroughSaveAndImport()
+    void shouldPutAnIconFromEverySourceOnTheKey()
     {
         QFETCH(int, source);
         QFETCH(QString, what);
@@ -365,25 +358,6 @@ private slots:
         QVERIFY(editor.setIcon(0, image));
         QCOMPARE(comparable(item()->render[0].userImg.toImage()), comparable(image));
         QCOMPARE(comparable(item()->render[1].userImg.toImage()), comparable(image));
-
-        model->saveCurrentKeyItemsToSettings();
-        {
-            Settings reopened;
-            ObjectRegistry::registerObject(ComponentId::Settings, &reopened);
-            KeyItemModel reloaded;
-            const KeyItem* again = reloadedItem(&reloaded);
-            ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-            QVERIFY(again);
-            QCOMPARE(comparable(again->render[0].userImg.toImage()), comparable(image));
-        }
-
-        const QString exported = file(QStringLiteral("layout.kslayout"));
-        QVERIFY(settings->exportSetting(exported));
-        model->deleteKeyItem(Key);
-        connect(settings.get(), &Settings::settingImported, model.get(), &KeyItemModel::replaceCurrentLayoutPages);
-        QVERIFY(settings->importFile(exported).isValid());
-        QVERIFY(item());
-        QCOMPARE(comparable(item()->render[0].userImg.toImage()), comparable(image));
     }
 
     void shouldRefuseAFileThatIsNoImage()
