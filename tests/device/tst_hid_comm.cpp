@@ -302,6 +302,25 @@ private slots:
         QVERIFY(keypad->isLogoShown());
     }
 
+    // Flashed through its boot loader, the keypad comes back under its own id
+    // and is opened again only when it arrives. (The firmware page test flashes
+    // the horizontal model and stops at an unacknowledged page.)
+    void shouldFlashTheSixKeyKeypadThroughItsBootLoader()
+    {
+        keypad->setProductId(0x1F42);
+        QVERIFY(start(V_Key_6));
+        QByteArray body(3 * 2048, '\0');
+        for (int i = 0; i < body.size(); ++i)
+            body[i] = char(i * 13);
+        QVERIFY(hid->updateFW(QByteArray(64, 'h') + body));
+        QCOMPARE(keypad->acknowledgedPages(), (QList<int>{0, 1, 2}));
+        QCOMPARE(keypad->flashedFirmware(), body);
+        QVERIFY(!hid->isOpened());
+        QVERIFY(!keypad->isInBootLoader());
+        hid->onKeyboardWasAdded(0xFFFF, 0x1F42);
+        QVERIFY(hid->isOpened());
+    }
+
     void shouldCommitMainFirmwareFromAFileOrBytes()
     {
         QVERIFY(start(H_Key_15));
