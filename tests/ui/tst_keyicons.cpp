@@ -264,14 +264,12 @@ private slots:
     {
         QTest::addColumn<QString>("desktop");
         QTest::addColumn<QString>("used");
-        QTest::newRow("none") << ""
-                              << "Adwaita";
-        QTest::newRow("bare hicolor") << "hicolor"
-                                      << "Adwaita";
-        QTest::newRow("not installed") << "NoSuchTheme"
-                                       << "Adwaita";
-        QTest::newRow("installed") << "KeystageTest"
-                                   << "KeystageTest";
+        // clang-format off
+        QTest::newRow("none")          << ""             << "Adwaita";
+        QTest::newRow("bare hicolor")  << "hicolor"      << "Adwaita";
+        QTest::newRow("not installed") << "NoSuchTheme"  << "Adwaita";
+        QTest::newRow("installed")     << "KeystageTest" << "KeystageTest";
+        // clang-format on
     }
 
     void shouldFallBackToTheProgramsThemeOnlyWhenTheDesktopHasNone()
@@ -380,18 +378,14 @@ private slots:
         QTest::addColumn<bool>("entered");
         // The slots whose face has the icon afterwards.
         QTest::addColumn<QString>("iconSlots");
-        QTest::newRow("website") << "website"
-                                 << "wide.png" << true << "01";
-        QTest::newRow("hotkey showing its second face") << "toggled hotkey"
-                                                        << "photo.jpg" << true << "1";
-        QTest::newRow("empty key") << "empty"
-                                   << "wide.png" << true << "";
-        QTest::newRow("back key") << "back"
-                                  << "wide.png" << true << "";
-        QTest::newRow("text file") << "website"
-                                   << "notes.txt" << false << "";
-        QTest::newRow("unreadable image") << "website"
-                                          << "fake.png" << true << "";
+        // clang-format off
+        QTest::newRow("website")                        << "website"        << "wide.png"  << true  << "01";
+        QTest::newRow("hotkey showing its second face") << "toggled hotkey" << "photo.jpg" << true  << "1";
+        QTest::newRow("empty key")                      << "empty"          << "wide.png"  << true  << "";
+        QTest::newRow("back key")                       << "back"           << "wide.png"  << true  << "";
+        QTest::newRow("text file")                      << "website"        << "notes.txt" << false << "";
+        QTest::newRow("unreadable image")               << "website"        << "fake.png"  << true  << "";
+        // clang-format on
     }
 
     void shouldSetTheIconOfTheKeyAnImageFileIsDroppedOn()
