@@ -7,6 +7,7 @@
 #include "hotkeyform.h"
 #include "iconcatalog.h"
 #include "iconchooser.h"
+#include "imagecompare.h"
 #include "ka_folder.h"
 #include "keyitem.h"
 #include "keyitemform.h"
@@ -161,7 +162,8 @@ public:
             else if (auto* button = qobject_cast<QAbstractButton*>(widget))
                 inspectButton(place, button);
             else if (auto* group = qobject_cast<QGroupBox*>(widget))
-                inspectGroupBox(place, group);
+                fit(place, group->title(), textWidth(group->fontMetrics(), group->title()),
+                    group->contentsRect().width());
             else if (auto* tabs = qobject_cast<QTabBar*>(widget))
                 inspectTabBar(place, tabs);
             else if (auto* combo = qobject_cast<QComboBox*>(widget))
@@ -200,10 +202,17 @@ private:
         return true;
     }
 
-    void note(const QString& place, const QString& text, int needed, int given)
+    void clip(const QString& place, const QString& text, int needed, int room, const char* unit = "px")
     {
-        if (firstTime(place, text))
-            clipped << QStringLiteral("%1 \"%2\" needs %3 px, has %4").arg(place, text).arg(needed).arg(given);
+        if (needed > room && firstTime(place, text))
+            clipped << QStringLiteral("%1 \"%2\" needs %3 %4, has %5").arg(place, text).arg(needed).arg(unit).arg(room);
+    }
+
+    // Checks one text's language and that it fits the room it has.
+    void fit(const QString& place, const QString& text, int needed, int room)
+    {
+        checkLanguage(place, text);
+        clip(place, text, needed, room);
     }
 
     // A control that sticks out sideways of a parent (a form wider than its
@@ -213,20 +222,18 @@ private:
         const bool showsText = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
                                qobject_cast<QComboBox*>(widget) || qobject_cast<QLineEdit*>(widget) ||
                                qobject_cast<QAbstractScrollArea*>(widget);
-        if (!showsText)
-            return;
         QRect rect = widget->rect();
-        for (QWidget* child = widget; child != root && child->parentWidget(); child = child->parentWidget()) {
+        for (QWidget* child = widget; showsText && child != root && child->parentWidget();
+             child = child->parentWidget()) {
             rect.translate(child->pos());
             const int outside = qMax(rect.right() + 1 - child->parentWidget()->width(), -rect.left());
-            if (outside > 0) {
-                if (firstTime(place, QStringLiteral("outside")))
-                    clipped << QStringLiteral("%1 sticks out of %2 %3 by %4 px")
-                                   .arg(place, QLatin1String(child->parentWidget()->metaObject()->className()),
-                                        child->parentWidget()->objectName())
-                                   .arg(outside);
+            if (outside > 0 && firstTime(place, QStringLiteral("outside")))
+                clipped << QStringLiteral("%1 sticks out of %2 %3 by %4 px")
+                               .arg(place, QLatin1String(child->parentWidget()->metaObject()->className()),
+                                    child->parentWidget()->objectName())
+                               .arg(outside);
+            if (outside > 0)
                 return;
-            }
         }
     }
 
@@ -249,90 +256,62 @@ private:
     {
         const QString text = label->text();
         if (text.isEmpty() || label->textFormat() == Qt::RichText || Qt::mightBeRichText(text)) {
-            if (!text.isEmpty() && !label->wordWrap() && label->sizeHint().width() > label->width())
-                note(place, text, label->sizeHint().width(), label->width());
+            if (!text.isEmpty() && !label->wordWrap())
+                clip(place, text, label->sizeHint().width(), label->width());
             return;
         }
+        if (!label->wordWrap()) {
+            const int room = label->contentsRect().width() - 2 * label->margin();
+            fit(place, text, textWidth(label->fontMetrics(), text) + qMax(0, label->indent()), room);
+            return;
+        }
+        // A wrapped label breaks even inside a word where it must; one that
+        // is too short cuts off its last lines.
         checkLanguage(place, text);
-        const QRect room =
-            label->contentsRect().adjusted(label->margin(), label->margin(), -label->margin(), -label->margin());
-        if (label->wordWrap()) {
-            // A wrapped label breaks even inside a word where it must; one
-            // that is too short cuts off its last lines.
-            const int needed = label->heightForWidth(label->width());
-            if (needed > label->height() && firstTime(place, text))
-                clipped << QStringLiteral("%1 \"%2\" needs %3 px high, has %4")
-                               .arg(place, text)
-                               .arg(needed)
-                               .arg(label->height());
-            return;
-        }
-        const int needed = textWidth(label->fontMetrics(), text) + qMax(0, label->indent());
-        if (needed > room.width())
-            note(place, text, needed, room.width());
+        clip(place, text, label->heightForWidth(label->width()), label->height(), "px high");
     }
 
     void inspectButton(const QString& place, QAbstractButton* button)
     {
         const QString text = button->text();
+        auto* tool = qobject_cast<QToolButton*>(button);
         if (text.isEmpty())
             return;
-        checkLanguage(place, text);
+        if (tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly)
+            return checkLanguage(place, text);
         QStyleOptionButton option;
         option.initFrom(button);
         option.text = text;
         option.icon = button->icon();
         option.iconSize = button->iconSize();
         QStyle* style = button->style();
-        int room = 0;
-        int needed = textWidth(button->fontMetrics(), text);
-        if (!button->icon().isNull())
-            needed += button->iconSize().width() + 4;
-        if (qobject_cast<QPushButton*>(button)) {
+        int needed =
+            textWidth(button->fontMetrics(), text) + (button->icon().isNull() ? 0 : button->iconSize().width() + 4);
+        int room = button->contentsRect().width();
+        if (auto* push = qobject_cast<QPushButton*>(button)) {
             room = style->subElementRect(QStyle::SE_PushButtonContents, &option, button).width();
-            if (static_cast<QPushButton*>(button)->menu())
-                needed += style->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, button);
+            needed += push->menu() ? style->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, button) : 0;
         } else if (qobject_cast<QCheckBox*>(button)) {
             room = style->subElementRect(QStyle::SE_CheckBoxContents, &option, button).width();
         } else if (qobject_cast<QRadioButton*>(button)) {
             room = style->subElementRect(QStyle::SE_RadioButtonContents, &option, button).width();
-        } else if (auto* tool = qobject_cast<QToolButton*>(button)) {
-            if (tool->toolButtonStyle() == Qt::ToolButtonIconOnly)
-                return;
+        } else if (tool) {
             needed = tool->sizeHint().width();
             room = tool->width();
-        } else {
-            room = button->contentsRect().width();
         }
-        if (needed > room)
-            note(place, text, needed, room);
-    }
-
-    void inspectGroupBox(const QString& place, QGroupBox* group)
-    {
-        if (group->title().isEmpty())
-            return;
-        checkLanguage(place, group->title());
-        const int needed = textWidth(group->fontMetrics(), group->title());
-        if (needed > group->contentsRect().width())
-            note(place, group->title(), needed, group->contentsRect().width());
+        fit(place, text, needed, room);
     }
 
     void inspectTabBar(const QString& place, QTabBar* tabs)
     {
-        for (int i = 0; i < tabs->count(); ++i) {
-            const QString text = tabs->tabText(i);
-            checkLanguage(place, text);
-            int needed = textWidth(tabs->fontMetrics(), text);
-            if (!tabs->tabIcon(i).isNull())
-                needed += tabs->iconSize().width();
-            // The text sits inside the tab's side margins; a tab made
-            // narrower than that shows it elided.
-            const int room =
-                tabs->tabRect(i).width() - tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs) / 2;
-            if (needed > room)
-                note(place + QStringLiteral(" tab"), text, needed, room);
-        }
+        // The text sits inside the tab's side margins; a tab made narrower
+        // than that shows it elided.
+        const int margins = tabs->style()->pixelMetric(QStyle::PM_TabBarTabHSpace, nullptr, tabs) / 2;
+        for (int i = 0; i < tabs->count(); ++i)
+            fit(place + QStringLiteral(" tab"), tabs->tabText(i),
+                textWidth(tabs->fontMetrics(), tabs->tabText(i)) +
+                    (tabs->tabIcon(i).isNull() ? 0 : tabs->iconSize().width()),
+                tabs->tabRect(i).width() - margins);
     }
 
     void inspectComboBox(const QString& place, QComboBox* combo)
@@ -346,47 +325,35 @@ private:
         option.frame = combo->hasFrame();
         const int room =
             combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo).width();
-        for (int i = 0; i < combo->count(); ++i) {
-            const QString text = combo->itemText(i);
-            checkLanguage(place, text);
-            int needed = combo->fontMetrics().horizontalAdvance(text);
-            if (!combo->itemIcon(i).isNull())
-                needed += combo->iconSize().width() + 4;
-            if (needed > room)
-                note(place + QStringLiteral(" item"), text, needed, room);
-        }
+        for (int i = 0; i < combo->count(); ++i)
+            fit(place + QStringLiteral(" item"), combo->itemText(i),
+                combo->fontMetrics().horizontalAdvance(combo->itemText(i)) +
+                    (combo->itemIcon(i).isNull() ? 0 : combo->iconSize().width() + 4),
+                room);
     }
 
     void inspectHeader(const QString& place, QHeaderView* header)
     {
+        const int margins = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
         for (int section = 0; section < header->count(); ++section) {
-            if (header->isSectionHidden(section))
-                continue;
             const QString text = header->model()->headerData(section, header->orientation()).toString();
-            checkLanguage(place, text);
-            const int needed = header->fontMetrics().horizontalAdvance(text) +
-                               2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
             // The last section may reach past the view when it stretches.
-            const int room = qMin(header->sectionSize(section),
-                                  header->viewport()->width() - header->sectionViewportPosition(section));
-            if (needed > room)
-                note(place + QStringLiteral(" section"), text, needed, room);
+            if (!header->isSectionHidden(section))
+                fit(place + QStringLiteral(" section"), text, header->fontMetrics().horizontalAdvance(text) + margins,
+                    qMin(header->sectionSize(section),
+                         header->viewport()->width() - header->sectionViewportPosition(section)));
         }
     }
 
     void inspectList(const QString& place, QListWidget* list)
     {
         for (int i = 0; i < list->count(); ++i) {
-            QListWidgetItem* item = list->item(i);
-            if (item->isHidden())
-                continue;
-            checkLanguage(place, item->text());
             // The item's own size hint holds its text, icon and padding.
-            const QRect rect = list->visualItemRect(item);
-            const int needed = list->sizeHintForIndex(list->model()->index(i, 0)).width();
-            const int room = qMin(rect.right() + 1, list->viewport()->width()) - rect.left();
-            if (needed > room)
-                note(place + QStringLiteral(" item"), item->text(), needed, room);
+            const QRect rect = list->visualItemRect(list->item(i));
+            if (!list->item(i)->isHidden())
+                fit(place + QStringLiteral(" item"), list->item(i)->text(),
+                    list->sizeHintForIndex(list->model()->index(i, 0)).width(),
+                    qMin(rect.right() + 1, list->viewport()->width()) - rect.left());
         }
     }
 
@@ -437,6 +404,13 @@ private:
         return key;
     }
 
+    // Kept in the build tree (tests/app/renders) for a person to look over.
+    void saveRender(const QString& what, QWidget* widget)
+    {
+        const QString file = QStringLiteral("/language_%1_%2.png").arg(QTest::currentDataTag(), what);
+        QVERIFY(widget->grab().save(ImageCompare::renderDirectory() + file));
+    }
+
     void inspectForms()
     {
         for (int type = KAT_FOLDER; type <= KAT_PASTE_STRING; ++type) {
@@ -448,6 +422,7 @@ private:
             if (auto* hotkey = qobject_cast<HotkeyForm*>(form)) {
                 hotkey->toggleBox()->setChecked(true);
                 inspector->inspect(QStringLiteral("form Hotkey, two features"), window.get());
+                saveRender(QStringLiteral("form"), window->rightColumn());
             }
             if (type == KAT_OPEN_WEBSITE)
                 inspectFaceDialogs(form);
@@ -524,6 +499,8 @@ private:
         for (int page = 0; page < dialog->pageCount(); ++page) {
             dialog->setCurrentPage(page);
             inspector->inspect(QStringLiteral("preferences, %1").arg(dialog->page(page)->title()), dialog);
+            if (page == 0)
+                saveRender(QStringLiteral("preferences"), dialog);
         }
         if (auto* language = dialog->findPage<LanguagePage>()) {
             language->languageList()->setCurrentRow(language->storedIndex() == 4 ? 5 : 4);
@@ -603,6 +580,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
 
         inspector->inspect(QStringLiteral("editor"), window.get());
+        saveRender(QStringLiteral("editor"), window.get());
         inspectForms();
         inspectFavoriteCopies();
         inspectBackKey();

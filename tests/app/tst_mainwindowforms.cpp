@@ -23,7 +23,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QSettings>
 
 namespace {
@@ -156,39 +155,6 @@ private slots:
         QCOMPARE(window->formArea()->keyForm(), nullptr);
         QCOMPARE(window->formArea()->shownActionType(), int(KAT_MACROKEY));
         QCOMPARE(grid->selectedKeyIdx(), -1);
-    }
-
-    // Every form fits the 400 pixel column without scrolling sideways; the
-    // column is kept in the build tree (tests/app/renders) to look at.
-    void shouldFitEveryFormIntoTheRightColumn_data()
-    {
-        QTest::addColumn<int>("type");
-        for (int type = KAT_FOLDER; type <= KAT_PASTE_STRING; ++type)
-            QTest::newRow(qPrintable(keyActionTypeToString(type))) << type;
-    }
-
-    void shouldFitEveryFormIntoTheRightColumn()
-    {
-        QFETCH(int, type);
-        const int key = emptyKey();
-        window->keyGrid()->createNewAction(type, key);
-        // A click on a selected folder would open it.
-        window->keyGrid()->cancelSelectedKeyButton(false);
-        QTest::mouseClick(window->keyGrid()->keyButton(key), Qt::LeftButton);
-        QCoreApplication::processEvents();
-        KeyItemForm* form = window->formArea()->keyForm();
-        QVERIFY(form);
-        if (auto* hotkey = qobject_cast<HotkeyForm*>(form))
-            hotkey->toggleBox()->setChecked(true);
-        auto* scroll = window->formArea()->findChild<QScrollArea*>(QStringLiteral("FormScroll"));
-        QVERIFY(scroll);
-        QCoreApplication::processEvents();
-        QVERIFY2(form->minimumSizeHint().width() <= scroll->viewport()->width(),
-                 qPrintable(
-                     QStringLiteral("%1 > %2").arg(form->minimumSizeHint().width()).arg(scroll->viewport()->width())));
-        QCOMPARE(form->width(), scroll->viewport()->width());
-        QVERIFY(window->rightColumn()->grab().save(ImageCompare::renderDirectory() +
-                                                   QStringLiteral("/form_%1.png").arg(keyActionTypeToString(type))));
     }
 };
 

@@ -219,6 +219,7 @@ private slots:
         QCOMPARE(other->openHandleCount(), 0);
     }
 
+    // Each turn once, and both packet sizes; the table's own test has every layout.
     void shouldShowEveryKeyNumberedAndTurnedForItsLayout_data()
     {
         QTest::addColumn<int>("layout");
@@ -228,7 +229,6 @@ private slots:
         QTest::newRow("15 keys, horizontal") << 2 << "bottom right";
         QTest::newRow("15 keys, vertical") << 3 << "bottom left";
         QTest::newRow("32 keys, horizontal") << 4 << "bottom right";
-        QTest::newRow("32 keys, vertical") << 5 << "bottom left";
     }
 
     void shouldShowEveryKeyNumberedAndTurnedForItsLayout()
@@ -302,37 +302,22 @@ private slots:
         QVERIFY(keypad->isLogoShown());
     }
 
-    void shouldFlashTheSixKeyKeypadThroughItsBootLoader_data()
-    {
-        QTest::addColumn<int>("product");
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<int>("withheldPage");
-        QTest::newRow("horizontal") << 0x1F43 << int(H_Key_6) << -1;
-        QTest::newRow("vertical, second page unacknowledged") << 0x1F42 << int(V_Key_6) << 1;
-    }
-
+    // Flashed through its boot loader, the keypad comes back under its own id
+    // and is opened again only when it arrives. (The firmware page test flashes
+    // the horizontal model and stops at an unacknowledged page.)
     void shouldFlashTheSixKeyKeypadThroughItsBootLoader()
     {
-        QFETCH(int, product);
-        QFETCH(int, layout);
-        QFETCH(int, withheldPage);
-        keypad->setProductId(quint16(product));
-        QVERIFY(start(layout));
-        keypad->failAcknowledgeAtPage(withheldPage);
+        keypad->setProductId(0x1F42);
+        QVERIFY(start(V_Key_6));
         QByteArray body(3 * 2048, '\0');
         for (int i = 0; i < body.size(); ++i)
             body[i] = char(i * 13);
-        QCOMPARE(hid->updateFW(QByteArray(64, 'h') + body), withheldPage < 0);
-        if (withheldPage >= 0) {
-            QCOMPARE(keypad->acknowledgedPages(), QList<int>{0});
-            QVERIFY(!hid->updateFW(QByteArray()));
-            return;
-        }
+        QVERIFY(hid->updateFW(QByteArray(64, 'h') + body));
         QCOMPARE(keypad->acknowledgedPages(), (QList<int>{0, 1, 2}));
         QCOMPARE(keypad->flashedFirmware(), body);
-        QVERIFY(!hid->isOpened()); // back under its own id, to be opened on arrival
+        QVERIFY(!hid->isOpened());
         QVERIFY(!keypad->isInBootLoader());
-        hid->onKeyboardWasAdded(0xFFFF, quint32(product));
+        hid->onKeyboardWasAdded(0xFFFF, 0x1F42);
         QVERIFY(hid->isOpened());
     }
 
@@ -353,6 +338,7 @@ private slots:
         QVERIFY(hid->updateFW(file.fileName()));
         QCOMPARE(keypad->firmwareCommit().declaredChecksum, quint32(3 * (20000 - 13)));
         QVERIFY(!hid->updateFW(QString()));
+        QVERIFY(!hid->updateFW(QByteArray()));
     }
 };
 

@@ -288,13 +288,6 @@ private slots:
         QCOMPARE(written, expected);
     }
 
-    void shouldStopTheSixKeyUpgradeWithoutAnAcknowledgement()
-    {
-        transport->inputReports = {QByteArray("\x02\xB0", 2)};
-        QCOMPARE(device.vT_FirmwareUpgradeNUC442(QByteArray(64, 'H') + patterned(3 * 2048)), int(Err_Failure));
-        QCOMPARE(transport->calls(RecordingTransport::Write).size(), 6); // the first page only
-    }
-
 private:
     RecordingTransport* transport = nullptr;
     VTHidDev device;

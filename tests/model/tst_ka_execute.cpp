@@ -19,21 +19,13 @@ private slots:
         QTest::addColumn<QString>("command");
         QTest::addColumn<QString>("program");
         QTest::addColumn<QString>("rest");
-        QTest::newRow("quoted program") << "\"/opt/my app/run\" --x \"a b\""
-                                        << "/opt/my app/run"
-                                        << "--x \"a b\"";
-        QTest::newRow("plain program") << "/usr/bin/env FOO=1  tool "
-                                       << "/usr/bin/env"
-                                       << "FOO=1  tool";
-        QTest::newRow("program alone") << "  gimp  "
-                                       << "gimp"
-                                       << "";
-        QTest::newRow("unclosed quote") << "\"/opt/x y"
-                                        << "/opt/x y"
-                                        << "";
-        QTest::newRow("tab") << "prog\t-v"
-                             << "prog"
-                             << "-v";
+        // clang-format off
+        QTest::newRow("quoted program") << "\"/opt/my app/run\" --x \"a b\"" << "/opt/my app/run" << "--x \"a b\"";
+        QTest::newRow("plain program")  << "/usr/bin/env FOO=1  tool "       << "/usr/bin/env"    << "FOO=1  tool";
+        QTest::newRow("program alone")  << "  gimp  "                        << "gimp"            << "";
+        QTest::newRow("unclosed quote") << "\"/opt/x y"                      << "/opt/x y"        << "";
+        QTest::newRow("tab")            << "prog\t-v"                        << "prog"            << "-v";
+        // clang-format on
     }
 
     void shouldSplitTheProgramFromItsArguments()
@@ -85,16 +77,13 @@ private slots:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("opened");
-        QTest::newRow("bare host") << "example.org"
-                                   << "http://example.org";
-        QTest::newRow("with scheme") << "https://example.org/a?b=c"
-                                     << "https://example.org/a?b=c";
-        QTest::newRow("host and port") << "localhost:8080"
-                                       << "http://localhost:8080";
-        QTest::newRow("mail") << "mailto:someone@example.org"
-                              << "mailto:someone@example.org";
-        QTest::newRow("colon in the path") << "example.org/a:b"
-                                           << "http://example.org/a:b";
+        // clang-format off
+        QTest::newRow("bare host")         << "example.org"                << "http://example.org";
+        QTest::newRow("with scheme")       << "https://example.org/a?b=c"  << "https://example.org/a?b=c";
+        QTest::newRow("host and port")     << "localhost:8080"             << "http://localhost:8080";
+        QTest::newRow("mail")              << "mailto:someone@example.org" << "mailto:someone@example.org";
+        QTest::newRow("colon in the path") << "example.org/a:b"            << "http://example.org/a:b";
+        // clang-format on
     }
 
     void shouldOpenWebsites()

@@ -6,6 +6,7 @@
 #include "ka_paststring.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "objectregistry.h"
 #include "recordingactionservices.h"
 #include "settings.h"
@@ -15,31 +16,24 @@
 #include <memory>
 
 // What each kind of key does when pressed.
-class TestKeyActions : public QObject
+class TestKeyActions : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        QFile::remove(Settings().fileName());
-        settings = std::make_unique<Settings>();
+        setUp();
         layouts.changeLayout(H_Key_15);
-        ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
-        model = std::make_unique<KeyItemModel>();
         model->changeLayoutButtonView(H_Key_15);
         model->resetCurrentKeyItemsToDefault();
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, model.get());
         services = std::make_unique<RecordingActionServices>();
     }
 
     void cleanup()
     {
         services.reset();
-        ObjectRegistry::clear();
-        model.reset();
-        settings.reset();
+        tearDown();
     }
 
     void shouldDoNothingForAnUnconfiguredKey_data()
@@ -141,9 +135,6 @@ private slots:
     }
 
 private:
-    std::unique_ptr<Settings> settings;
-    ButtonLayoutConfig layouts;
-    std::unique_ptr<KeyItemModel> model;
     std::unique_ptr<RecordingActionServices> services;
 };
 

@@ -50,6 +50,30 @@ QImage markedImage()
     return image;
 }
 
+// Each layout's figures as the keypads are known by them; -1 and 6 are no layouts.
+struct LayoutFigures
+{
+    int layout;
+    const char* name;
+    int keys;
+    QSize panel, icon, grid;
+    bool smallPackets;
+    int pauseMs;
+    const char *model, *firmware, *vendorFirmware;
+    quint32 productId;
+};
+
+const LayoutFigures Figures[] = {
+    {0, "H_Key_6", 6, {316, 523}, {72, 72}, {3, 2}, true, 0, "VKP-6P", "F28B23P1F43", "F28B23P1F43", 0x1F43},
+    {1, "V_Key_6", 6, {316, 523}, {72, 72}, {2, 3}, true, 0, "VKP-6P", "F28B23P1F42", "F28B23P1F42", 0x1F42},
+    {2, "H_Key_15", 15, {466, 523}, {72, 72}, {5, 3}, false, 0, "VKP-15P", "F43B35P1F41", "F43B35P1F41", 0x1F41},
+    {3, "V_Key_15", 15, {466, 523}, {72, 72}, {3, 5}, false, 0, "VKP-15P", "F43B35P1F40", "VKP15-01-0", 0x1F40},
+    {4, "H_Key_32", 32, {508, 523}, {48, 48}, {8, 4}, false, 1, "VKP-32L", "F70B48P1F44", "F70B48P1F44", 0x1F44},
+    {5, "V_Key_32", 32, {508, 523}, {48, 48}, {4, 8}, false, 0, "VKP-32L", "F70B48P1F44", "F70B48P1F44", 0x1F44},
+    {-1, "", 0, {}, {}, {}, false, 0, "Unknown Device", "Unknown Device", "Unknown Device", 0},
+    {6, "", 0, {}, {}, {}, false, 0, "Unknown Device", "Unknown Device", "Unknown Device", 0},
+};
+
 } // namespace
 
 class TestKeypadTable : public QObject
@@ -59,75 +83,29 @@ class TestKeypadTable : public QObject
 private slots:
     void shouldKnowEachLayout_data()
     {
-        QTest::addColumn<int>("layout");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("keys");
-        QTest::addColumn<QSize>("panel");
-        QTest::addColumn<QSize>("icon");
-        QTest::addColumn<QSize>("grid");
-        QTest::addColumn<bool>("smallPackets");
-        QTest::addColumn<int>("pauseMs");
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<QString>("firmware");
-        QTest::addColumn<QString>("vendorFirmware");
-        QTest::addColumn<quint32>("productId");
-        QTest::newRow("0") << 0 << "H_Key_6" << 6 << QSize(316, 523) << QSize(72, 72) << QSize(3, 2) << true << 0
-                           << "VKP-6P"
-                           << "F28B23P1F43"
-                           << "F28B23P1F43" << quint32(0x1F43);
-        QTest::newRow("1") << 1 << "V_Key_6" << 6 << QSize(316, 523) << QSize(72, 72) << QSize(2, 3) << true << 0
-                           << "VKP-6P"
-                           << "F28B23P1F42"
-                           << "F28B23P1F42" << quint32(0x1F42);
-        QTest::newRow("2") << 2 << "H_Key_15" << 15 << QSize(466, 523) << QSize(72, 72) << QSize(5, 3) << false << 0
-                           << "VKP-15P"
-                           << "F43B35P1F41"
-                           << "F43B35P1F41" << quint32(0x1F41);
-        QTest::newRow("3") << 3 << "V_Key_15" << 15 << QSize(466, 523) << QSize(72, 72) << QSize(3, 5) << false << 0
-                           << "VKP-15P"
-                           << "F43B35P1F40"
-                           << "VKP15-01-0" << quint32(0x1F40);
-        QTest::newRow("4") << 4 << "H_Key_32" << 32 << QSize(508, 523) << QSize(48, 48) << QSize(8, 4) << false << 1
-                           << "VKP-32L"
-                           << "F70B48P1F44"
-                           << "F70B48P1F44" << quint32(0x1F44);
-        QTest::newRow("5") << 5 << "V_Key_32" << 32 << QSize(508, 523) << QSize(48, 48) << QSize(4, 8) << false << 0
-                           << "VKP-32L"
-                           << "F70B48P1F44"
-                           << "F70B48P1F44" << quint32(0x1F44);
-        for (int invalid : {-1, 6}) {
-            QTest::newRow(qPrintable(QString::number(invalid)))
-                << invalid << QString() << 0 << QSize() << QSize() << QSize() << false << 0 << "Unknown Device"
-                << "Unknown Device"
-                << "Unknown Device" << quint32(0);
-        }
+        QTest::addColumn<int>("row");
+        for (int row = 0; row < int(std::size(Figures)); ++row)
+            QTest::newRow(qPrintable(QString::number(Figures[row].layout))) << row;
     }
 
     void shouldKnowEachLayout()
     {
-        QFETCH(int, layout);
-        QFETCH(QString, name);
-        QFETCH(int, keys);
-        QFETCH(QSize, panel);
-        QFETCH(QSize, icon);
-        QFETCH(QSize, grid);
-        QFETCH(bool, smallPackets);
-        QFETCH(int, pauseMs);
-        QFETCH(QString, model);
-        QFETCH(QString, firmware);
-        QFETCH(QString, vendorFirmware);
-        QFETCH(quint32, productId);
+        QFETCH(int, row);
+        const LayoutFigures& figures = Figures[row];
+        const int layout = figures.layout;
+        const int keys = figures.keys;
+        const quint32 productId = figures.productId;
         QCOMPARE(KeypadTable::isValidLayout(layout), keys > 0);
-        QCOMPARE(KeypadTable::layoutName(layout), name);
+        QCOMPARE(KeypadTable::layoutName(layout), QString::fromLatin1(figures.name));
         QCOMPARE(KeypadTable::keyCount(layout), keys);
-        QCOMPARE(KeypadTable::panelSize(layout), panel);
-        QCOMPARE(KeypadTable::iconSize(layout), icon);
-        QCOMPARE(KeypadTable::gridShape(layout), grid);
-        QCOMPARE(KeypadTable::usesSmallPackets(layout), smallPackets);
-        QCOMPARE(KeypadTable::writePauseMs(layout), pauseMs);
-        QCOMPARE(KeypadTable::modelName(layout), model);
-        QCOMPARE(KeypadTable::firmwareId(layout, false), firmware);
-        QCOMPARE(KeypadTable::firmwareId(layout, true), vendorFirmware);
+        QCOMPARE(KeypadTable::panelSize(layout), figures.panel);
+        QCOMPARE(KeypadTable::iconSize(layout), figures.icon);
+        QCOMPARE(KeypadTable::gridShape(layout), figures.grid);
+        QCOMPARE(KeypadTable::usesSmallPackets(layout), figures.smallPackets);
+        QCOMPARE(KeypadTable::writePauseMs(layout), figures.pauseMs);
+        QCOMPARE(KeypadTable::modelName(layout), QString::fromLatin1(figures.model));
+        QCOMPARE(KeypadTable::firmwareId(layout, false), QString::fromLatin1(figures.firmware));
+        QCOMPARE(KeypadTable::firmwareId(layout, true), QString::fromLatin1(figures.vendorFirmware));
         const KeypadTable::LayoutFacts* facts = KeypadTable::layout(layout);
         QCOMPARE(facts != nullptr, keys > 0);
         if (!facts) {

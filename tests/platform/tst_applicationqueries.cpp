@@ -171,12 +171,12 @@ private slots:
         QTest::addColumn<QString>("exec");
         QTest::addColumn<QString>("executable");
         const QString sh = QStandardPaths::findExecutable(QStringLiteral("sh"));
-        QTest::newRow("on PATH") << "sh -c true" << sh;
-        QTest::newRow("past env") << "env A=1 B=2 sh %U" << sh;
-        QTest::newRow("absolute") << "/opt/tool/run"
-                                  << "/opt/tool/run";
-        QTest::newRow("not found") << "no-such-program-here"
-                                   << "no-such-program-here";
+        // clang-format off
+        QTest::newRow("on PATH")   << "sh -c true"           << sh;
+        QTest::newRow("past env")  << "env A=1 B=2 sh %U"    << sh;
+        QTest::newRow("absolute")  << "/opt/tool/run"        << "/opt/tool/run";
+        QTest::newRow("not found") << "no-such-program-here" << "no-such-program-here";
+        // clang-format on
     }
 
     void shouldResolveTheProgramThatRuns()
@@ -192,14 +192,12 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("found");
-        QTest::newRow("first directory") << "both"
-                                         << "a/both";
-        QTest::newRow("not executable there") << "plain"
-                                              << "b/plain";
-        QTest::newRow("a directory of that name") << "dir"
-                                                  << "b/dir";
-        QTest::newRow("nowhere") << "none"
-                                 << "";
+        // clang-format off
+        QTest::newRow("first directory")          << "both"  << "a/both";
+        QTest::newRow("not executable there")     << "plain" << "b/plain";
+        QTest::newRow("a directory of that name") << "dir"   << "b/dir";
+        QTest::newRow("nowhere")                  << "none"  << "";
+        // clang-format on
     }
 
     void shouldFindProgramsAsAShellWould()
@@ -220,18 +218,12 @@ private slots:
         QTest::addColumn<QString>("executable");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("commandLine");
-        QTest::newRow("same path") << "/usr/bin/editor"
-                                   << "Editor"
-                                   << "editor %U";
-        QTest::newRow("same file name") << "/opt/editor/bin/editor"
-                                        << "Editor"
-                                        << "editor %U";
-        QTest::newRow("desktop id") << "/app/bin/gedit"
-                                    << "Gedit"
-                                    << "flatpak run org.gnome.gedit";
-        QTest::newRow("unknown") << "/opt/Odd Tool/odd"
-                                 << "odd"
-                                 << "\"/opt/Odd Tool/odd\"";
+        // clang-format off
+        QTest::newRow("same path")      << "/usr/bin/editor"        << "Editor" << "editor %U";
+        QTest::newRow("same file name") << "/opt/editor/bin/editor" << "Editor" << "editor %U";
+        QTest::newRow("desktop id")     << "/app/bin/gedit"         << "Gedit"  << "flatpak run org.gnome.gedit";
+        QTest::newRow("unknown")        << "/opt/Odd Tool/odd"      << "odd"    << "\"/opt/Odd Tool/odd\"";
+        // clang-format on
     }
 
     void shouldDescribeRunningProgramsByTheirInstalledApplication()

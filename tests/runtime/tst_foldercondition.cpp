@@ -4,6 +4,7 @@
 #include "ka_folder.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "logcapture.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -35,21 +36,15 @@ private:
 
 } // namespace
 
-class FolderConditionTest : public QObject
+class FolderConditionTest : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        QFile::remove(Settings().fileName());
-        m_settings = std::make_unique<Settings>();
-        m_layouts.changeLayout(V_Key_15);
-        ObjectRegistry::registerObject(ComponentId::Settings, m_settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &m_layouts);
-        m_model = std::make_unique<KeyItemModel>();
-        m_model->changeLayoutButtonView(V_Key_15);
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, m_model.get());
+        setUp();
+        model->changeLayoutButtonView(V_Key_15);
         m_mainWindow = std::make_unique<QWidget>();
         ObjectRegistry::registerObject(ComponentId::MainWindow, m_mainWindow.get());
 
@@ -65,19 +60,17 @@ private slots:
     void cleanup()
     {
         m_condition.reset();
-        m_model.reset();
         m_mainWindow.reset();
-        ObjectRegistry::clear();
-        m_settings.reset();
+        tearDown();
     }
 
     void shouldWatchOnlyRootFoldersThatNameAnApplication()
     {
         KA_Folder* editor = addFolder(1, QStringLiteral("/opt/tools/editor.sh"));
         addFolder(2, QString());
-        QVERIFY(m_model->createKeyAction(3, KAT_HOTKEY));
-        QVERIFY(m_model->createKeyAction(5, KAT_PASTE_STRING));
-        KeyItem* broken = m_model->keyItemAt(5);
+        QVERIFY(model->createKeyAction(3, KAT_HOTKEY));
+        QVERIFY(model->createKeyAction(5, KAT_PASTE_STRING));
+        KeyItem* broken = model->keyItemAt(5);
         delete broken->action[0];
         broken->action[0] = nullptr;
         KA_Folder* terminal = addFolder(7, QStringLiteral("terminal"));
@@ -88,9 +81,9 @@ private slots:
         editor->childList.prepend(nested);
         auto* otherLayout = new KeyItem(KAT_FOLDER, 0, H_Key_6);
         static_cast<KA_Folder*>(otherLayout->action[0])->appName = QStringLiteral("elsewhere");
-        m_model->rootList(H_Key_6)->append(otherLayout);
+        model->rootList(H_Key_6)->append(otherLayout);
         // The user left the editor inside a folder: the root page counts all the same.
-        m_model->changeListHead(editor, &editor->childList);
+        model->changeListHead(editor, &editor->childList);
 
         LogCapture capture;
         m_condition->startFolderConditionDetect();
@@ -200,14 +193,14 @@ private slots:
         for (int i = 0; i < names.size(); ++i)
             folders << addFolder(i + 1, names[i]);
         m_condition->startFolderConditionDetect();
-        QVERIFY(m_model->deleteKeyItem(7));
-        m_model->onDeleteTimerTimeout();
+        QVERIFY(model->deleteKeyItem(7));
+        model->onDeleteTimerTimeout();
 
         tick(QStringLiteral("editor"));
         QCOMPARE(m_presses, (QStringList{"/usr/bin/editor", "C:/Tools/editor.exe", "/opt/editor.tar.gz"}));
         // Each opened on the keypad in turn; the last one stays.
-        QCOMPARE(m_model->getCurrentLayoutListHead(), &folders[5]->childList);
-        QCOMPARE(m_model->currentFolder(), folders[5]);
+        QCOMPARE(model->getCurrentLayoutListHead(), &folders[5]->childList);
+        QCOMPARE(model->currentFolder(), folders[5]);
         QVERIFY(!folders[0]->isOpened);
     }
 
@@ -244,10 +237,10 @@ private:
     // A root-page folder whose presses are recorded.
     KA_Folder* addFolder(int keyIdx, const QString& appName)
     {
-        m_model->changeListToRoot();
-        if (!m_model->createKeyAction(keyIdx, KAT_FOLDER))
+        model->changeListToRoot();
+        if (!model->createKeyAction(keyIdx, KAT_FOLDER))
             return nullptr;
-        KeyItem* item = m_model->keyItemAt(keyIdx);
+        KeyItem* item = model->keyItemAt(keyIdx);
         delete item->action[0];
         auto* folder = new RecordingFolder(item, &m_presses);
         folder->appName = appName;
@@ -255,9 +248,6 @@ private:
         return folder;
     }
 
-    std::unique_ptr<Settings> m_settings;
-    ButtonLayoutConfig m_layouts;
-    std::unique_ptr<KeyItemModel> m_model;
     std::unique_ptr<QWidget> m_mainWindow;
     FakeWindowSystem* m_windowSystem = nullptr;
     std::unique_ptr<FolderCondition> m_condition;

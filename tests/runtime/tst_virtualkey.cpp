@@ -65,14 +65,12 @@ private slots:
         QTest::addColumn<int>("key");
         QTest::addColumn<QString>("modifiers");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("key alone") << 0x41 << ""
-                                   << "65+ 65-";
-        QTest::newRow("Command is the Windows key") << 0x41 << "win"
-                                                    << "91+ 65+ 65- 91-";
-        QTest::newRow("Control and Shift") << 0x2E << "ctrl shift"
-                                           << "17+ 16+ 46+ 46- 16- 17-";
-        QTest::newRow("all four") << 0x41 << "shift ctrl alt win"
-                                  << "91+ 18+ 17+ 16+ 65+ 65- 16- 17- 18- 91-";
+        // clang-format off
+        QTest::newRow("key alone")        << 0x41 << ""                   << "65+ 65-";
+        QTest::newRow("Command: Windows") << 0x41 << "win"                << "91+ 65+ 65- 91-";
+        QTest::newRow("Ctrl and Shift")   << 0x2E << "ctrl shift"         << "17+ 16+ 46+ 46- 16- 17-";
+        QTest::newRow("all four")         << 0x41 << "shift ctrl alt win" << "91+ 18+ 17+ 16+ 65+ 65- 16- 17- 18- 91-";
+        // clang-format on
     }
 
     void shouldPressModifiersInOrderAndReleaseInReverse()

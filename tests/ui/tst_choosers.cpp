@@ -106,20 +106,16 @@ private slots:
         QTest::addColumn<int>("source");
         QTest::addColumn<QString>("chosen");
         QTest::addColumn<QString>("executable");
-        QTest::newRow("first of all") << "" << int(ApplicationChooser::Installed) << "Text Editor"
-                                      << "/usr/bin/gedit";
-        QTest::newRow("by name") << "calc" << int(ApplicationChooser::Installed) << "Calculator"
-                                 << "/usr/bin/calc";
-        QTest::newRow("words in any order") << "editor text" << int(ApplicationChooser::Installed) << "Text Editor"
-                                            << "/usr/bin/gedit";
-        QTest::newRow("by program") << "xterm" << int(ApplicationChooser::Installed) << "Terminal"
-                                    << "/usr/bin/xterm";
-        QTest::newRow("nothing matches") << "zzz" << int(ApplicationChooser::Installed) << ""
-                                         << "";
-        QTest::newRow("running, installed") << "term" << int(ApplicationChooser::Running) << "Terminal"
-                                            << "/usr/bin/xterm";
-        QTest::newRow("running, unknown") << "odd" << int(ApplicationChooser::Running) << "odd"
-                                          << "/opt/odd/odd";
+        const int installed = ApplicationChooser::Installed, running = ApplicationChooser::Running;
+        // clang-format off
+        QTest::newRow("first of all")       << ""            << installed << "Text Editor" << "/usr/bin/gedit";
+        QTest::newRow("by name")            << "calc"        << installed << "Calculator"  << "/usr/bin/calc";
+        QTest::newRow("words in any order") << "editor text" << installed << "Text Editor" << "/usr/bin/gedit";
+        QTest::newRow("by program")         << "xterm"       << installed << "Terminal"    << "/usr/bin/xterm";
+        QTest::newRow("nothing matches")    << "zzz"         << installed << ""            << "";
+        QTest::newRow("running, installed") << "term"        << running   << "Terminal"    << "/usr/bin/xterm";
+        QTest::newRow("running, unknown")   << "odd"         << running   << "odd"         << "/opt/odd/odd";
+        // clang-format on
     }
 
     void shouldFilterAsYouTypeAndTakeTheSelectedEntryOnEnter()

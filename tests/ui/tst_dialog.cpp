@@ -71,73 +71,48 @@ class DialogTest : public QObject
 private slots:
     void cleanup() { Dialog::clearNextAnswers(); }
 
-    void shouldShowExactlyTheButtonsGiven_data()
+    // Only the parts given show; the mid button has the default look.
+    void shouldShowOnlyThePartsGiven_data()
     {
-        QTest::addColumn<QStringList>("given");
-        QTest::addColumn<QStringList>("shown");
-        QTest::newRow("mid and right") << QStringList{"", "Cancel", "Delete"} << QStringList{"Cancel", "Delete"};
-        QTest::newRow("all three") << QStringList{"A", "B", "C"} << QStringList{"A", "B", "C"};
-        QTest::newRow("left only") << QStringList{"Only", "", ""} << QStringList{"Only"};
-        QTest::newRow("none") << QStringList{"", "", ""} << QStringList{};
+        QTest::addColumn<QStringList>("given"); // subject, three buttons, check box
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<bool>("iconShown");
+        QTest::newRow("delete question") << QStringList{"s", "", "Cancel", "Delete", "Don't ask"} << 2 << true;
+        QTest::newRow("three buttons, logo") << QStringList{"s", "A", "B", "C", ""} << 1 << true;
+        QTest::newRow("left only, close icon") << QStringList{"s", "Only", "", "", ""} << 3 << true;
+        QTest::newRow("no buttons, no icon") << QStringList{"s", "", "", "", ""} << 0 << false;
+        QTest::newRow("no subject, unknown icon") << QStringList{"", "", "OK", "", ""} << 4 << false;
     }
 
-    void shouldShowExactlyTheButtonsGiven()
+    void shouldShowOnlyThePartsGiven()
     {
         QFETCH(QStringList, given);
-        QFETCH(QStringList, shown);
+        QFETCH(int, icon);
+        QFETCH(bool, iconShown);
         Dialog dialog;
-        dialog.setupDialog(QStringLiteral("subject"), QStringLiteral("text"), given.at(0), given.at(1), given.at(2),
-                           QString(), Dialog::IconWarning, Dialog::MidButton);
-        QCOMPARE(visibleButtonTexts(dialog), shown);
-    }
-
-    void shouldGiveTheDefaultLookToOneButtonOnly()
-    {
-        Dialog dialog;
-        setUpDeleteQuestion(&dialog);
+        dialog.setupDialog(given[0], QStringLiteral("text"), given[1], given[2], given[3], given[4], icon,
+                           Dialog::MidButton);
+        QStringList buttons = given.mid(1, 3);
+        buttons.removeAll(QString());
+        QCOMPARE(visibleButtonTexts(dialog), buttons);
+        QCOMPARE(dialog.iconLabel()->isVisibleTo(&dialog), iconShown);
+        QCOMPARE(!dialog.iconLabel()->pixmap(Qt::ReturnByValue).isNull(), iconShown);
+        QCOMPARE(dialog.findChild<QLabel*>(QStringLiteral("DialogSubject"))->isVisibleTo(&dialog), !given[0].isEmpty());
+        QVERIFY(dialog.findChild<QLabel*>(QStringLiteral("DialogText"))->isVisibleTo(&dialog));
+        QCOMPARE(dialog.checkBox()->isVisibleTo(&dialog), !given[4].isEmpty());
+        QVERIFY(!dialog.isChecked());
         for (int i = 0; i < 3; ++i)
             QCOMPARE(dialog.buttonAt(i)->property("default").toBool(), i == 1);
         QVERIFY(dialog.buttonAt(1)->isDefault());
     }
 
-    void shouldHideEmptyPartsAndReadUncheckedWithoutCheckBox()
-    {
-        Dialog dialog;
-        dialog.setupDialog(QString(), QStringLiteral("only text"), QString(), QStringLiteral("OK"), QString(),
-                           QString(), 7, Dialog::MidButton);
-        QVERIFY(!dialog.checkBox()->isVisibleTo(&dialog));
-        QVERIFY(!dialog.isChecked());
-        QVERIFY(!dialog.iconLabel()->isVisibleTo(&dialog));
-        QVERIFY(!dialog.findChild<QLabel*>(QStringLiteral("DialogSubject"))->isVisibleTo(&dialog));
-        QVERIFY(dialog.findChild<QLabel*>(QStringLiteral("DialogText"))->isVisibleTo(&dialog));
-    }
-
-    void shouldShowTheIconOfEachKind_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<bool>("visible");
-        QTest::newRow("logo") << 1 << true;
-        QTest::newRow("warning") << 2 << true;
-        QTest::newRow("close") << 3 << true;
-        QTest::newRow("none") << 0 << false;
-        QTest::newRow("unknown") << 4 << false;
-    }
-
-    void shouldShowTheIconOfEachKind()
-    {
-        QFETCH(int, kind);
-        QFETCH(bool, visible);
-        Dialog dialog;
-        dialog.setupDialog(QStringLiteral("s"), QString(), QString(), QStringLiteral("OK"), QString(), QString(), kind,
-                           Dialog::MidButton);
-        QCOMPARE(dialog.iconLabel()->isVisibleTo(&dialog), visible);
-        QCOMPARE(!dialog.iconLabel()->pixmap(Qt::ReturnByValue).isNull(), visible);
-    }
-
-    void shouldReportTheClickedTextAndTheCheckState()
+    // The clicked button and check box are the answer; a new question starts
+    // unanswered, so closing by the title bar answers nothing rather than the last answer.
+    void shouldAnswerTheClickAndNothingWhenClosedByTheTitleBar()
     {
         Dialog dialog;
         setUpDeleteQuestion(&dialog);
+        QCOMPARE(dialog.answer(), QString());
         execWhileShown(&dialog, [&dialog] {
             QTest::mouseClick(dialog.checkBox(), Qt::LeftButton, {}, QPoint(4, dialog.checkBox()->height() / 2));
             QTest::mouseClick(dialog.buttonAt(2), Qt::LeftButton);
@@ -146,20 +121,6 @@ private slots:
         QCOMPARE(dialog.answerButton(), UserQuestion::Delete);
         QVERIFY(dialog.isChecked());
         QVERIFY(!dialog.isVisible());
-    }
-
-    // A new question starts unanswered, so closing by the title bar
-    // answers nothing rather than the last answer.
-    void shouldAnswerNothingWhenClosedByTheTitleBar()
-    {
-        Dialog dialog;
-        setUpDeleteQuestion(&dialog);
-        QCOMPARE(dialog.answer(), QString());
-        execWhileShown(&dialog, [&dialog] {
-            dialog.checkBox()->setChecked(true);
-            QTest::mouseClick(dialog.buttonAt(1), Qt::LeftButton);
-        });
-        QCOMPARE(dialog.answer(), QStringLiteral("Cancel"));
         setUpDeleteQuestion(&dialog);
         QVERIFY(!dialog.checkBox()->isChecked());
         execWhileShown(&dialog, [&dialog] { QTest::mouseClick(dialog.closeButton(), Qt::LeftButton); });

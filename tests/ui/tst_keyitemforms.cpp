@@ -329,36 +329,32 @@ private slots:
         QTest::addColumn<QString>("dialog");
         QTest::addColumn<QString>("stored");
         QTest::addColumn<QString>("title");
-        const QString editor = QStringLiteral("gnome-text-editor --new-window");
-        QTest::newRow("launch file") << int(KAT_EXE_APP_FILE) << "Choose file…" << true << "file 1 paused 1"
-                                     << "\"/opt/My Tools/run.sh\""
-                                     << "";
-        QTest::newRow("launch file cancelled") << int(KAT_EXE_APP_FILE) << "Choose file…" << false << "file 1 paused 1"
-                                               << ""
-                                               << "";
-        QTest::newRow("launch application") << int(KAT_EXE_APP_FILE) << "Choose application…" << true
-                                            << "application 1 paused 1" << editor << "Text Editor";
-        QTest::newRow("launch application cancelled")
-            << int(KAT_EXE_APP_FILE) << "Choose application…" << false << "application 1 paused 1"
-            << ""
-            << "";
-        QTest::newRow("website bookmark") << int(KAT_OPEN_WEBSITE) << "Choose bookmark…" << true << "bookmark paused 1"
-                                          << "https://www.debian.org/News/"
-                                          << "Debian News";
-        QTest::newRow("website bookmark cancelled")
-            << int(KAT_OPEN_WEBSITE) << "Choose bookmark…" << false << "bookmark paused 1"
-            << ""
-            << "";
-        QTest::newRow("folder application")
-            << int(KAT_FOLDER) << "Choose application…" << true << "application 3 paused 1"
-            << "/usr/bin/gnome-text-editor"
-            << "";
-        QTest::newRow("folder browse") << int(KAT_FOLDER) << "Browse…" << true << "file 0 paused 1"
-                                       << "/opt/My Tools/run.sh"
-                                       << "";
-        QTest::newRow("folder browse cancelled") << int(KAT_FOLDER) << "Browse…" << false << "file 0 paused 1"
-                                                 << ""
-                                                 << "";
+        const struct
+        {
+            const char* name;
+            int type;
+            const char* button;
+            const char* dialog;
+            const char* stored;
+            const char* title;
+        } rows[] = {
+            {"launch file", KAT_EXE_APP_FILE, "Choose file…", "file 1", "\"/opt/My Tools/run.sh\"", ""},
+            {"launch application", KAT_EXE_APP_FILE, "Choose application…", "application 1",
+             "gnome-text-editor --new-window", "Text Editor"},
+            {"website bookmark", KAT_OPEN_WEBSITE, "Choose bookmark…", "bookmark", "https://www.debian.org/News/",
+             "Debian News"},
+            {"folder application", KAT_FOLDER, "Choose application…", "application 3", "/usr/bin/gnome-text-editor",
+             ""},
+            {"folder browse", KAT_FOLDER, "Browse…", "file 0", "/opt/My Tools/run.sh", ""},
+        };
+        for (const auto& row : rows) {
+            const QString dialog = QString::fromUtf8(row.dialog) + QStringLiteral(" paused 1");
+            QTest::newRow(row.name) << row.type << QString::fromUtf8(row.button) << true << dialog
+                                    << QString::fromUtf8(row.stored) << QString::fromUtf8(row.title);
+            if (row.type != KAT_FOLDER || QByteArray(row.dialog) != "application 3")
+                QTest::addRow("%s cancelled", row.name)
+                    << row.type << QString::fromUtf8(row.button) << false << dialog << QString() << QString();
+        }
     }
 
     void shouldPauseTheKeypadWhileAChooserIsOpen()

@@ -139,16 +139,13 @@ private slots:
     {
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("fixed");
-        QTest::newRow("balanced") << "Ctrl+ C+ C- Ctrl-"
-                                  << "Ctrl+ C+ C- Ctrl-";
-        QTest::newRow("last pressed released first") << "Ctrl+ Shift+ C+ C-"
-                                                     << "Ctrl+ Shift+ C+ C- Shift- Ctrl-";
-        QTest::newRow("pressed twice, released once") << "A+ A+ A-"
-                                                      << "A+ A+ A-";
-        QTest::newRow("released, pressed again") << "A+ A- A+"
-                                                 << "A+ A- A+ A-";
-        QTest::newRow("release without press") << "B- A+"
-                                               << "B- A+ A-";
+        // clang-format off
+        QTest::newRow("balanced")                     << "Ctrl+ C+ C- Ctrl-"  << "Ctrl+ C+ C- Ctrl-";
+        QTest::newRow("last pressed released first")  << "Ctrl+ Shift+ C+ C-" << "Ctrl+ Shift+ C+ C- Shift- Ctrl-";
+        QTest::newRow("pressed twice, released once") << "A+ A+ A-"           << "A+ A+ A-";
+        QTest::newRow("released, pressed again")      << "A+ A- A+"           << "A+ A- A+ A-";
+        QTest::newRow("release without press")        << "B- A+"              << "B- A+ A-";
+        // clang-format on
     }
 
     void shouldFindTheKeysLeftHeld()
@@ -179,21 +176,13 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("steps");
         QTest::addColumn<QString>("skipped");
-        QTest::newRow("letters") << "aB"
-                                 << "A+ A- Shift+ B+ B- Shift-"
-                                 << "";
-        QTest::newRow("shifted digit") << "1!"
-                                       << "1+ 1- Shift+ 1+ 1- Shift-"
-                                       << "";
-        QTest::newRow("punctuation") << "<;"
-                                     << "Shift+ ,+ ,- Shift- ;+ ;-"
-                                     << "";
-        QTest::newRow("line break") << "a\r\nb"
-                                    << "A+ A- Return+ Return- B+ B-"
-                                    << "";
-        QTest::newRow("not on a US keyboard") << "é€é😀"
-                                              << ""
-                                              << "é€😀";
+        // clang-format off
+        QTest::newRow("letters")              << "aB"     << "A+ A- Shift+ B+ B- Shift-"   << "";
+        QTest::newRow("shifted digit")        << "1!"     << "1+ 1- Shift+ 1+ 1- Shift-"   << "";
+        QTest::newRow("punctuation")          << "<;"     << "Shift+ ,+ ,- Shift- ;+ ;-"   << "";
+        QTest::newRow("line break")           << "a\r\nb" << "A+ A- Return+ Return- B+ B-" << "";
+        QTest::newRow("not on a US keyboard") << "é€é😀"   << ""                            << "é€😀";
+        // clang-format on
     }
 
     void shouldTurnTextIntoUsKeystrokes()

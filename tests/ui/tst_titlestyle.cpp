@@ -173,22 +173,6 @@ private slots:
         QCOMPARE(dialog.style().align, int(Qt::AlignVCenter | Qt::AlignLeft));
         QCOMPARE(QApplication::focusWidget()->accessibleName(), QStringLiteral("Middle left"));
     }
-
-    void shouldStyleHotkeySlotsApartAndOtherKeysAsOne()
-    {
-        model->deleteKeyItem(Key + 1);
-        put(Key + 1, KAT_HOTKEY);
-        TitleStyle style = TitleStyle::resetStyle();
-        style.color = Qt::cyan;
-        KeyItemEditor website(model.get(), Key);
-        KeyItemEditor hotkey(model.get(), Key + 1);
-        QVERIFY(website.setTitleStyle(1, style));
-        QVERIFY(style.isIn(item()->render[0]) && style.isIn(item()->render[1]));
-        QVERIFY(!website.setTitleStyle(0, style));
-        QVERIFY(hotkey.setTitleStyle(1, style));
-        QVERIFY(!style.isIn(model->keyItemAt(Key + 1)->render[0]));
-        QVERIFY(style.isIn(model->keyItemAt(Key + 1)->render[1]));
-    }
 };
 
 KEYSTAGE_TEST_MAIN(TitleStyleTest)

@@ -2,6 +2,7 @@
 #include "ka_folder.h"
 #include "keyitem.h"
 #include "keyitemmodel.h"
+#include "keymodelfixture.h"
 #include "metatypes.h"
 #include "objectregistry.h"
 #include "settings.h"
@@ -15,7 +16,7 @@
 
 // Root page: a hotkey titled "Copy" at key 0 and an untitled folder at key 3
 // holding its back key and a macro at key 0.
-class TreeViewTest : public QObject
+class TreeViewTest : public QObject, KeyModelFixture
 {
     Q_OBJECT
 
@@ -24,13 +25,7 @@ private slots:
 
     void init()
     {
-        QFile::remove(Settings().fileName());
-        settings = std::make_unique<Settings>();
-        layouts.changeLayout(V_Key_15);
-        ObjectRegistry::registerObject(ComponentId::Settings, settings.get());
-        ObjectRegistry::registerObject(ComponentId::ButtonLayoutConfig, &layouts);
-        model = std::make_unique<KeyItemModel>();
-        ObjectRegistry::registerObject(ComponentId::KeyItemModel, model.get());
+        setUp();
         model->changeLayoutButtonView(V_Key_15);
         QVERIFY(model->createKeyAction(0, KAT_HOTKEY));
         model->keyItemAt(0)->setTitle(0, QStringLiteral("Copy"));
@@ -49,9 +44,7 @@ private slots:
     void cleanup()
     {
         view.reset();
-        ObjectRegistry::clear();
-        model.reset();
-        settings.reset();
+        tearDown();
     }
 
     void shouldListTheRootPageWithFolderChildren()
@@ -134,9 +127,6 @@ private:
         QTest::mouseClick(view->treeWidget()->viewport(), Qt::LeftButton, {}, pos);
     }
 
-    std::unique_ptr<Settings> settings;
-    ButtonLayoutConfig layouts;
-    std::unique_ptr<KeyItemModel> model;
     std::unique_ptr<TreeView> view;
 };
 

@@ -13,7 +13,7 @@
 
 // A fresh settings store, layout config and key model in the 15-key
 // vertical layout, registered as the program registers them; for the tests
-// of what edits the grid.
+// of the key model and of what edits it.
 struct KeyModelFixture
 {
     std::unique_ptr<Settings> settings;
