@@ -1,7 +1,6 @@
 #include "genericwindowsystem.h"
 
 #include "foregroundsource.h"
-#include "x11windowsystem.h"
 
 #include <QWindow>
 
@@ -47,8 +46,7 @@ bool GenericWindowSystem::canQueryForegroundApplication() const
 
 QString GenericWindowSystem::foregroundApplicationName()
 {
-    const qint64 pid = m_source ? m_source->processId() : 0;
-    return pid > 0 ? X11WindowSystem::executableBaseName(pid) : QString();
+    return m_source ? m_source->applicationName() : QString();
 }
 
 void GenericWindowSystem::watchForegroundApplication(bool watch)

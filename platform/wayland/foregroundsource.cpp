@@ -5,6 +5,8 @@
 #include "kwinscriptsource.h"
 #include "sessionbus.h"
 #include "swayipcsource.h"
+#include "wlrtoplevelsource.h"
+#include "x11windowsystem.h"
 
 #include <QCoreApplication>
 #include <QProcessEnvironment>
@@ -22,6 +24,12 @@ QString ForegroundSource::notice() const
 qint64 ForegroundSource::processId() const
 {
     return m_pid.load();
+}
+
+QString ForegroundSource::applicationName() const
+{
+    const qint64 pid = processId();
+    return pid > 0 ? X11WindowSystem::executableBaseName(pid) : QString();
 }
 
 bool ForegroundSource::isStarted() const
@@ -59,5 +67,9 @@ std::unique_ptr<ForegroundSource> ForegroundSource::forDesktop(const QProcessEnv
         return std::make_unique<KWinScriptSource>(sessionBusIfAny());
     if (desktops.contains(QStringLiteral("GNOME"), Qt::CaseInsensitive))
         return std::make_unique<GnomeShellSource>(sessionBusIfAny());
+    // Any other compositor may offer wlroots' toplevel list; the source says
+    // so when it does not.
+    if (environment.contains(QStringLiteral("WAYLAND_DISPLAY")))
+        return std::make_unique<WlrToplevelSource>(environment.value(QStringLiteral("WAYLAND_DISPLAY")));
     return nullptr;
 }

@@ -33,6 +33,9 @@ public:
 
     // The focused window's process; 0 when none has the focus.
     qint64 processId() const;
+    // The base name of the focused window's program; empty when none has
+    // the focus or it is not known.
+    virtual QString applicationName() const;
     bool isStarted() const;
 
     // The source this desktop offers, judged from its environment; null for

@@ -636,6 +636,14 @@
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
         <translation>Ordner können sich nicht je nach Anwendung öffnen: Es gibt keinen Sitzungsbus, über den KWin gefragt werden kann.</translation>
     </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>Dieser Compositor meldet nicht, welche Anwendung im Vordergrund ist, daher können sich Ordner nicht je nach Anwendung öffnen. Compositors mit der Fensterliste von wlroots melden es (sway, river, labwc, Wayfire, Hyprland).</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>Ordner öffnen sich je nach Anwendung: Die Fensterliste des Compositors meldet, welche im Vordergrund ist.</translation>
+    </message>
 </context>
 <context>
     <name>FunctionDescription</name>

@@ -266,7 +266,7 @@
     <name>ControlAdaptor</name>
     <message>
         <source>No folder titled &quot;%1&quot; on the root page.</source>
-        <translation>No folder titled "%1" on the root page.</translation>
+        <translation>No folder titled &quot;%1&quot; on the root page.</translation>
     </message>
     <message>
         <source>Key %1 is not on the keypad (0 to %2).</source>
@@ -630,11 +630,19 @@
     </message>
     <message>
         <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
-        <translation>To open folders by application on GNOME, install Keystage's GNOME Shell extension (%1) and turn it on.</translation>
+        <translation>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</translation>
     </message>
     <message>
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
         <translation>Folders cannot open by application: there is no session bus to ask KWin.</translation>
+    </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</translation>
     </message>
 </context>
 <context>
@@ -1220,7 +1228,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     </message>
     <message>
         <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
-        <translation>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run "sudo udevadm control --reload &amp;&amp; sudo udevadm trigger" and start %1 again.</translation>
+        <translation>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</translation>
     </message>
 </context>
 <context>
@@ -2033,7 +2041,7 @@ A sequence of characters defined by users. Text string can be text message, sour
     <name>WindowSystem</name>
     <message>
         <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
-        <translation>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage's extension) do.</translation>
+        <translation>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</translation>
     </message>
 </context>
 </TS>

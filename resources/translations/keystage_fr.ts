@@ -266,7 +266,7 @@
     <name>ControlAdaptor</name>
     <message>
         <source>No folder titled &quot;%1&quot; on the root page.</source>
-        <translation>Aucun dossier intitulé « %1 » sur la page d’accueil.</translation>
+        <translation>Aucun dossier intitulé «&#xa0;%1&#xa0;» sur la page d’accueil.</translation>
     </message>
     <message>
         <source>Key %1 is not on the keypad (0 to %2).</source>
@@ -434,7 +434,7 @@
     </message>
     <message>
         <source>Live content:</source>
-        <translation>Contenu en direct :</translation>
+        <translation>Contenu en direct&#xa0;:</translation>
     </message>
     <message>
         <source>Graph</source>
@@ -618,15 +618,15 @@
     <name>ForegroundSource</name>
     <message>
         <source>Folders open by application: %1 tells which is in front.</source>
-        <translation>Les dossiers s’ouvrent selon l’application : %1 indique celle qui est au premier plan.</translation>
+        <translation>Les dossiers s’ouvrent selon l’application&#xa0;: %1 indique celle qui est au premier plan.</translation>
     </message>
     <message>
         <source>Folders open by application: the Keystage Focus extension of GNOME Shell tells which is in front.</source>
-        <translation>Les dossiers s’ouvrent selon l’application : l’extension GNOME Shell Keystage Focus indique celle qui est au premier plan.</translation>
+        <translation>Les dossiers s’ouvrent selon l’application&#xa0;: l’extension GNOME Shell Keystage Focus indique celle qui est au premier plan.</translation>
     </message>
     <message>
         <source>To open folders by application, turn on the Keystage Focus extension in Extensions, or run: gnome-extensions enable %1</source>
-        <translation>Pour ouvrir les dossiers selon l’application, activez l’extension Keystage Focus dans « Extensions », ou exécutez : gnome-extensions enable %1</translation>
+        <translation>Pour ouvrir les dossiers selon l’application, activez l’extension Keystage Focus dans «&#xa0;Extensions&#xa0;», ou exécutez&#xa0;: gnome-extensions enable %1</translation>
     </message>
     <message>
         <source>To open folders by application on GNOME, install Keystage&apos;s GNOME Shell extension (%1) and turn it on.</source>
@@ -634,7 +634,15 @@
     </message>
     <message>
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
-        <translation>Les dossiers ne peuvent pas s’ouvrir selon l’application : aucun bus de session ne permet d’interroger KWin.</translation>
+        <translation>Les dossiers ne peuvent pas s’ouvrir selon l’application&#xa0;: aucun bus de session ne permet d’interroger KWin.</translation>
+    </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>Ce compositeur n’indique pas quelle application est au premier plan, les dossiers ne peuvent donc pas s’ouvrir selon l’application. Les compositeurs qui offrent la liste des fenêtres de wlroots le font (sway, river, labwc, Wayfire, Hyprland).</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>Les dossiers s’ouvrent selon l’application&#xa0;: la liste des fenêtres du compositeur indique celle qui est au premier plan.</translation>
     </message>
 </context>
 <context>
@@ -1220,7 +1228,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
     <message>
         <source>This is a Wayland session, and without access to /dev/uinput keys are typed through XWayland, which only programs running under X receive. To reach every program, install the udev rule 70-keystage.rules (into /etc/udev/rules.d, unless a package has put it into /usr/lib/udev/rules.d), run &quot;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&quot; and start %1 again.</source>
-        <translation>Ceci est une session Wayland et, sans accès à /dev/uinput, les touches passent par XWayland, que seuls les programmes fonctionnant sous X reçoivent. Pour atteindre tous les programmes, installez la règle udev 70-keystage.rules (dans /etc/udev/rules.d, sauf si un paquet l’a placée dans /usr/lib/udev/rules.d), exécutez « sudo udevadm control --reload &amp;&amp; sudo udevadm trigger » et relancez %1.</translation>
+        <translation>Ceci est une session Wayland et, sans accès à /dev/uinput, les touches passent par XWayland, que seuls les programmes fonctionnant sous X reçoivent. Pour atteindre tous les programmes, installez la règle udev 70-keystage.rules (dans /etc/udev/rules.d, sauf si un paquet l’a placée dans /usr/lib/udev/rules.d), exécutez «&#xa0;sudo udevadm control --reload &amp;&amp; sudo udevadm trigger&#xa0;» et relancez %1.</translation>
     </message>
 </context>
 <context>
@@ -1528,7 +1536,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     </message>
     <message>
         <source>%1 cannot be written: %2. Your changes are kept while %3 runs and saved as soon as the file can be written again.</source>
-        <translation>Impossible d’écrire %1 : %2. Vos modifications sont conservées tant que %3 fonctionne et seront enregistrées dès que le fichier pourra de nouveau être écrit.</translation>
+        <translation>Impossible d’écrire %1&#xa0;: %2. Vos modifications sont conservées tant que %3 fonctionne et seront enregistrées dès que le fichier pourra de nouveau être écrit.</translation>
     </message>
 </context>
 <context>
@@ -2033,7 +2041,7 @@ Une suite de caractères que vous définissez&#xa0;: message, code source ou scr
     <name>WindowSystem</name>
     <message>
         <source>This desktop does not tell which application is in front, so folders cannot open by application. On Wayland, sway, Hyprland, KDE Plasma and GNOME (with Keystage&apos;s extension) do.</source>
-        <translation>Ce bureau n’indique pas quelle application est au premier plan : les dossiers ne peuvent donc pas s’ouvrir selon l’application. Sous Wayland, sway, Hyprland, KDE Plasma et GNOME (avec l’extension de Keystage) le permettent.</translation>
+        <translation>Ce bureau n’indique pas quelle application est au premier plan&#xa0;: les dossiers ne peuvent donc pas s’ouvrir selon l’application. Sous Wayland, sway, Hyprland, KDE Plasma et GNOME (avec l’extension de Keystage) le permettent.</translation>
     </message>
 </context>
 </TS>

@@ -636,6 +636,14 @@
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
         <translation>Le cartelle non possono aprirsi in base all’applicazione: non c’è un bus di sessione per interrogare KWin.</translation>
     </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>Questo compositor non indica quale applicazione è in primo piano, quindi le cartelle non possono aprirsi in base all’applicazione. I compositor che offrono l’elenco delle finestre di wlroots lo fanno (sway, river, labwc, Wayfire, Hyprland).</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>Le cartelle si aprono in base all’applicazione: l’elenco delle finestre del compositor indica quale è in primo piano.</translation>
+    </message>
 </context>
 <context>
     <name>FunctionDescription</name>

@@ -634,6 +634,14 @@
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
         <translation>アプリケーションごとにフォルダーを開けません: KWin に問い合わせるセッションバスがありません。</translation>
     </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>このコンポジターは前面のアプリケーションを通知しないため、アプリケーションごとにフォルダーを開けません。wlroots のウィンドウ一覧を提供するコンポジター (sway、river、labwc、Wayfire、Hyprland) では開けます。</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>アプリケーションごとにフォルダーを開きます: 前面のアプリケーションはコンポジターのウィンドウ一覧から通知されます。</translation>
+    </message>
 </context>
 <context>
     <name>FunctionDescription</name>

@@ -634,6 +634,14 @@
         <source>Folders cannot open by application: there is no session bus to ask KWin.</source>
         <translation>資料夾無法依應用程式開啟：沒有可詢問 KWin 的工作階段匯流排。</translation>
     </message>
+    <message>
+        <source>This compositor does not tell which application is in front, so folders cannot open by application. Compositors that offer wlroots&apos; toplevel list do (sway, river, labwc, Wayfire, Hyprland).</source>
+        <translation>此合成器不會告知哪個應用程式在前景，因此資料夾無法依應用程式開啟。提供 wlroots 視窗清單的合成器可以做到（sway、river、labwc、Wayfire、Hyprland）。</translation>
+    </message>
+    <message>
+        <source>Folders open by application: the compositor&apos;s toplevel list tells which is in front.</source>
+        <translation>資料夾會依應用程式開啟：合成器的視窗清單會告知哪個應用程式在前景。</translation>
+    </message>
 </context>
 <context>
     <name>FunctionDescription</name>

@@ -5,6 +5,7 @@
 #include "programlocator.h"
 #include "runningapplications.h"
 #include "testfiles.h"
+#include "wlrtoplevelsource.h"
 #include "testmain.h"
 
 #include <QJsonArray>
@@ -19,12 +20,19 @@ namespace {
 
 const char ListOption[] = "--list-installed-applications";
 
-// The helper process: the installed applications as JSON on stdout.
+// The app ids a Wayland compositor may name, for the helper to map.
+const char* const AppIds[] = {"org.example.Editor", "Percent", "hidden", "envonly", "org.example.Unknown"};
+
+// The helper process: the installed applications as JSON on stdout, and the
+// programs of some app ids.
 int listApplications(int argc, char** argv)
 {
     if (argc < 2 || qstrcmp(argv[1], ListOption) != 0)
         return -1;
-    QJsonArray list;
+    QJsonObject programs;
+    for (const char* appId : AppIds)
+        programs.insert(QLatin1String(appId), WlrToplevelSource::programForAppId(QLatin1String(appId)));
+    QJsonArray list{programs};
     for (const ApplicationEntry& entry : InstalledApplications::query())
         list.append(QJsonObject{{"name", entry.name},
                                 {"commandLine", entry.commandLine},
@@ -88,8 +96,31 @@ private slots:
         helper.setProcessEnvironment(environment);
         helper.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(ListOption)});
         QVERIFY(helper.waitForFinished(120000));
-        for (const QJsonValue value : QJsonDocument::fromJson(helper.readAllStandardOutput()).array())
+        QJsonArray list = QJsonDocument::fromJson(helper.readAllStandardOutput()).array();
+        QVERIFY(!list.isEmpty());
+        m_programs = list.takeAt(0).toObject();
+        for (const QJsonValue value : qAsConst(list))
             m_installed.insert(value[QLatin1String("desktopId")].toString(), value.toObject());
+    }
+
+    // The program a Wayland app id stands for: its desktop entry's, looked
+    // up as named or in lower case; else the app id itself.
+    void shouldMapAppIdsToPrograms_data()
+    {
+        QTest::addColumn<QString>("appId");
+        QTest::addColumn<QString>("program");
+        QTest::newRow("entry named after the id") << "org.example.Editor" << "sh";
+        QTest::newRow("entry in lower case") << "Percent" << "run";
+        QTest::newRow("entry hidden from menus") << "hidden" << "true";
+        QTest::newRow("entry without a program") << "envonly" << "envonly";
+        QTest::newRow("no entry") << "org.example.Unknown" << "org.example.Unknown";
+    }
+
+    void shouldMapAppIdsToPrograms()
+    {
+        QFETCH(QString, appId);
+        QFETCH(QString, program);
+        QCOMPARE(m_programs.value(appId).toString(), program);
     }
 
     void shouldListInstalledApplicationsFromTheDataDirectories_data()
@@ -251,6 +282,7 @@ private slots:
 private:
     QTemporaryDir m_fixture;
     QHash<QString, QJsonObject> m_installed;
+    QJsonObject m_programs;
 };
 
 KEYSTAGE_TEST_MAIN_WITH(ApplicationQueriesTest, listApplications)

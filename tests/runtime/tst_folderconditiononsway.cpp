@@ -1,7 +1,8 @@
 // Folder conditions against a real compositor: sway, headless with software
 // rendering, on the test's own runtime directory, with copies of the foot
-// terminal (a native Wayland client) under two program names brought to the
-// front in turn. Skips when sway or foot is not installed.
+// terminal (a native Wayland client) under two program names (and app ids)
+// brought to the front in turn; followed through sway's IPC and through the
+// wlroots toplevel list. Skips when sway or foot is not installed.
 #include "foldercondition.h"
 #include "genericwindowsystem.h"
 #include "ka_folder.h"
@@ -10,6 +11,7 @@
 #include "objectregistry.h"
 #include "settings.h"
 #include "swayipcsource.h"
+#include "wlrtoplevelsource.h"
 #include "testmain.h"
 
 #include <QDir>
@@ -87,10 +89,18 @@ private slots:
         }
     }
 
+    void shouldOpenTheFolderOncePerChangeOfApplication_data()
+    {
+        QTest::addColumn<bool>("toplevelList");
+        QTest::newRow("sway IPC") << false;
+        QTest::newRow("wlroots toplevel list") << true;
+    }
+
     // Only a change of the application in front opens the folder: staying
     // in it after leaving the folder does not pull the user back.
     void shouldOpenTheFolderOncePerChangeOfApplication()
     {
+        QFETCH(bool, toplevelList);
         Settings settings;
         ObjectRegistry::registerObject(ComponentId::Settings, &settings);
         KeyItemModel model;
@@ -102,8 +112,12 @@ private slots:
         auto* folder = qobject_cast<KA_Folder*>(model.keyItemAt(1)->currentAction());
         folder->appName = QStringLiteral("/opt/somewhere/editor");
 
-        auto windowSystem = std::make_unique<GenericWindowSystem>(
-            QStringLiteral("wayland"), std::make_unique<SwayIpcSource>(QStringLiteral("sway"), m_socket));
+        std::unique_ptr<ForegroundSource> followed;
+        if (toplevelList)
+            followed = std::make_unique<WlrToplevelSource>(QDir(m_runtime.path()).filePath(m_display));
+        else
+            followed = std::make_unique<SwayIpcSource>(QStringLiteral("sway"), m_socket);
+        auto windowSystem = std::make_unique<GenericWindowSystem>(QStringLiteral("wayland"), std::move(followed));
         ForegroundSource* source = windowSystem->foregroundSource();
         FolderCondition condition(600, std::move(windowSystem));
         condition.startFolderConditionDetect();
@@ -112,11 +126,11 @@ private slots:
         startClient(&m_viewer, QStringLiteral("viewer"));
         startClient(&m_editor, QStringLiteral("editor"));
         const QList<std::pair<QProcess*, bool>> steps = {
-            {&m_editor, true}, {&m_editor, false}, {&m_viewer, false}, {&m_editor, true}};
+            {&m_viewer, false}, {&m_editor, true}, {&m_editor, false}, {&m_viewer, false}, {&m_editor, true}};
         for (const auto& [client, opens] : steps) {
             model.changeListToRoot();
             focus(*client);
-            QTRY_COMPARE_WITH_TIMEOUT(source->processId(), client->processId(), Patience);
+            QTRY_COMPARE_WITH_TIMEOUT(source->applicationName(), client->objectName(), Patience);
             condition.onBkTimerTimeout();
             QCOMPARE(model.currentFolder() == folder, opens);
         }
@@ -163,10 +177,14 @@ private:
 
     void startClient(QProcess* client, const QString& program)
     {
+        if (client->state() == QProcess::Running)
+            return;
+        client->setObjectName(program);
         client->setProcessEnvironment(m_clientEnvironment);
         client->setStandardOutputFile(QProcess::nullDevice());
         client->setStandardErrorFile(QProcess::nullDevice());
-        const Command foot = asUser(m_programs.filePath(program), {QStringLiteral("sleep"), QStringLiteral("600")});
+        const Command foot = asUser(m_programs.filePath(program), {QStringLiteral("--app-id=%1").arg(program),
+                                                                   QStringLiteral("sleep"), QStringLiteral("600")});
         client->start(foot.program, foot.arguments);
         QVERIFY(client->waitForStarted(Patience));
         // Mapped once sway lets it take the focus.

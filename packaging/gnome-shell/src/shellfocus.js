@@ -2,10 +2,6 @@
  * session bus as io.vantorix.Keystage.ShellFocus, so that Keystage can
  * open the keypad folder linked to the application in front. GNOME Shell
  * tells no other client which window has the focus on Wayland. */
-'use strict';
-
-const { Gio, GLib } = imports.gi;
-
 const BusName = 'io.vantorix.Keystage.ShellFocus';
 const ObjectPath = '/io/vantorix/Keystage/ShellFocus';
 const InterfaceXml = `
@@ -61,9 +57,4 @@ class ShellFocus {
         this._exported.emit_property_changed('FocusedPid', new GLib.Variant('u', pid));
         this._exported.emit_signal('FocusChanged', new GLib.Variant('(u)', [pid]));
     }
-}
-
-/* exported init */
-function init() {
-    return new ShellFocus();
 }
