@@ -5,8 +5,8 @@
 #include "programlocator.h"
 #include "runningapplications.h"
 #include "testfiles.h"
-#include "wlrtoplevelsource.h"
 #include "testmain.h"
+#include "wlrtoplevelsource.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -109,11 +109,16 @@ private slots:
     {
         QTest::addColumn<QString>("appId");
         QTest::addColumn<QString>("program");
-        QTest::newRow("entry named after the id") << "org.example.Editor" << "sh";
-        QTest::newRow("entry in lower case") << "Percent" << "run";
-        QTest::newRow("entry hidden from menus") << "hidden" << "true";
-        QTest::newRow("entry without a program") << "envonly" << "envonly";
-        QTest::newRow("no entry") << "org.example.Unknown" << "org.example.Unknown";
+        QTest::newRow("entry named after the id") << "org.example.Editor"
+                                                  << "sh";
+        QTest::newRow("entry in lower case") << "Percent"
+                                             << "run";
+        QTest::newRow("entry hidden from menus") << "hidden"
+                                                 << "true";
+        QTest::newRow("entry without a program") << "envonly"
+                                                 << "envonly";
+        QTest::newRow("no entry") << "org.example.Unknown"
+                                  << "org.example.Unknown";
     }
 
     void shouldMapAppIdsToPrograms()

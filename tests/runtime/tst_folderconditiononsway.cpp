@@ -11,8 +11,8 @@
 #include "objectregistry.h"
 #include "settings.h"
 #include "swayipcsource.h"
-#include "wlrtoplevelsource.h"
 #include "testmain.h"
+#include "wlrtoplevelsource.h"
 
 #include <QDir>
 #include <QProcess>
