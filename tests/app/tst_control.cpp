@@ -148,7 +148,8 @@ private slots:
         const int backlightBefore = m_keypad->backlight();
 
         const Ctl ctl = keystagectl(arguments, m_bus.address());
-        QCOMPARE(ctl.exitCode, exitCode);
+        QVERIFY2(ctl.exitCode == exitCode,
+                 qPrintable(QStringLiteral("exit %1: %2").arg(ctl.exitCode).arg(ctl.out + ctl.err)));
         QVERIFY2((exitCode == 0 ? ctl.out : ctl.err).contains(said), qPrintable(ctl.out + ctl.err));
         QTRY_COMPARE_WITH_TIMEOUT(adaptor()->currentFolderKey(), folderKey, WaitMs);
         QCOMPARE(adaptor()->layout(), layout);
